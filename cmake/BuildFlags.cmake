@@ -1,0 +1,20 @@
+# Flags that every program of this project is built with, as one interface target.
+add_library(velmora_flags INTERFACE)
+
+target_compile_definitions(velmora_flags INTERFACE
+  UNICODE _UNICODE STRICT NOMINMAX WIN32_LEAN_AND_MEAN
+  WINVER=0x0A00 _WIN32_WINNT=0x0A00
+  $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
+
+target_compile_options(velmora_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+  -Wold-style-cast -Woverloaded-virtual -Wnull-dereference
+  -finput-charset=UTF-8 -ffunction-sections -fdata-sections
+  $<$<CONFIG:Debug>:-fsanitize=undefined> $<$<CONFIG:Debug>:-fsanitize-undefined-trap-on-error>
+  $<$<BOOL:${VELMORA_WERROR}>:-Werror>)
+
+# One file to hand out: the runtime is linked in. Address randomisation and no-execute are on.
+target_link_options(velmora_flags INTERFACE
+  -static -municode
+  -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat
+  $<$<CONFIG:Release>:-s>)
