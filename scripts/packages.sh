@@ -1,0 +1,84 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that building, running and testing need, as far as they are missing.
+# With nothing missing it asks dpkg once and touches neither apt nor the network.
+#
+#   scripts/packages.sh           install what is missing (as root, or through sudo)
+#   scripts/packages.sh --list    print the packages, one a line
+set -euo pipefail
+
+readonly packages=(
+  # Build: the program is 32-bit; some targets of the tests are 64-bit.
+  cmake ninja-build g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix googletest
+  # Run: Wine for both kinds of program, the Japanese locale and a font to see it in.
+  wine wine32:i386 wine64 locales fonts-ipafont-gothic
+  # Drive and look: the virtual display, its pointer and keys, questions to it, screenshots.
+  xvfb xdotool x11-utils imagemagick
+  # Check: the layout of the sources.
+  clang-format
+)
+
+missing_packages() {
+  local -A installed=()
+  local name state
+  # dpkg-query names a package with its architecture only where several may stand side by side.
+  while read -r name state; do
+    [[ $state == installed ]] && installed[$name]=1
+  done < <(dpkg-query -W -f '${Package} ${db:Status-Status}\n${Package}:${Architecture} ${db:Status-Status}\n' \
+             "${packages[@]}" 2>/dev/null || true)
+  for name in "${packages[@]}"; do
+    [[ -n ${installed[$name]:-} ]] || echo "$name"
+  done
+}
+
+as_root() {
+  if [[ $(id -u) == 0 ]]; then
+    env DEBIAN_FRONTEND=noninteractive "$@"
+  else
+    sudo env DEBIAN_FRONTEND=noninteractive "$@"
+  fi
+}
+
+install_packages() {
+  as_root apt-get install --yes --no-install-recommends "$@"
+}
+
+main() {
+  if [[ ${1:-} == --list ]]; then
+    printf '%s\n' "${packages[@]}"
+    return
+  fi
+
+  local missing
+  mapfile -t missing < <(missing_packages)
+  [[ ${#missing[@]} == 0 ]] && return
+
+  echo "Installing: ${missing[*]}"
+  if [[ $(id -u) != 0 ]] && ! command -v sudo >/dev/null; then
+    echo "Missing packages, and neither root nor sudo to install them: ${missing[*]}" >&2
+    return 1
+  fi
+
+  if ! dpkg --print-foreign-architectures | grep -qx i386; then
+    as_root dpkg --add-architecture i386
+  fi
+  # One index out of step with its release file must not stop the others from being used.
+  as_root apt-get update || echo "Some package indexes could not be read; going on without them." >&2
+
+  if ! install_packages "${missing[@]}"; then
+    # The usual cause: updates of the two architectures out of step, so that the newest versions
+    # have no partner. The release itself is always consistent.
+    local release
+    # shellcheck source=/dev/null
+    release=$(. /etc/os-release && echo "${VERSION_CODENAME:-stable}")
+    echo "Trying again with the packages of $release itself."
+    install_packages -t "$release" "${missing[@]}" || true
+  fi
+
+  mapfile -t missing < <(missing_packages)
+  if [[ ${#missing[@]} != 0 ]]; then
+    echo "These packages could not be installed: ${missing[*]}" >&2
+    return 1
+  fi
+}
+
+main "$@"
