@@ -1,0 +1,144 @@
+#!/usr/bin/env bash
+# The test bed: a Japanese Windows (Wine in code page 932) with a virtual screen of its own.
+#
+#   scripts/bed.sh exec [--win64] [--keep] [--] COMMAND [ARGUMENT…]
+#
+# starts the bed, runs COMMAND in it, ends everything that belongs to the bed, and gives back
+# COMMAND's exit code. For a shell with a screen:  scripts/bed.sh exec bash
+#   --win64   the prefix of a 64-bit Windows, which runs both kinds of program
+#   --keep    after COMMAND wait for Enter before ending the bed
+#
+# COMMAND finds DISPLAY (1280x1024), WINEPREFIX, LC_ALL and LOCPATH set, and further
+#   VELMORA_PREFIX_1252   a prefix in code page 1252, used by scripts/in-cp1252.sh
+#
+# The bed lies in build/bed, or in the folder that VELMORA_BED names. One bed serves one command
+# at a time, a second one waits; with another VELMORA_BED both run side by side.
+set -euo pipefail
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+readonly root
+readonly bed=${VELMORA_BED:-$root/build/bed}
+
+usage() {
+  sed -n '2,/^set /{/^#/{s/^# \{0,1\}//;p}}' "${BASH_SOURCE[0]}"
+}
+
+start_locale() {
+  export LOCPATH=$bed/locale
+  if [[ ! -d $LOCPATH/ja_JP.UTF-8 ]]; then
+    mkdir -p "$LOCPATH"
+    localedef -i ja_JP -f UTF-8 "$LOCPATH/ja_JP.UTF-8"
+  fi
+}
+
+start_prefixes() {
+  export WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,winemenubuilder.exe='
+  export VELMORA_PREFIX_1252=$bed/prefix32-1252
+  WINEARCH=win32 LC_ALL=C.UTF-8 "$root/scripts/prefix.sh" "$VELMORA_PREFIX_1252"
+
+  export LC_ALL=ja_JP.UTF-8
+  if [[ $win64 == yes ]]; then
+    export WINEARCH=win64 WINEPREFIX=$bed/prefix64
+  else
+    export WINEARCH=win32 WINEPREFIX=$bed/prefix32
+  fi
+  "$root/scripts/prefix.sh" "$WINEPREFIX"
+}
+
+# The X server picks a free display number itself and writes it down once it can be reached.
+start_display() {
+  local number_file=$bed/display deadline=$((SECONDS + 20))
+  rm -f "$number_file"
+  # A killed bed takes its X server along.
+  setpriv --pdeathsig TERM Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset \
+    3>"$number_file" >"$bed/xvfb.log" 2>&1 </dev/null &
+  xvfb_pid=$!
+  until [[ -s $number_file ]]; do
+    if ! kill -0 "$xvfb_pid" 2>/dev/null || ((SECONDS > deadline)); then
+      echo "The virtual display did not start; see $bed/xvfb.log" >&2
+      return 1
+    fi
+    read -rt 0.05 <> <(:) || true
+  done
+  DISPLAY=:$(<"$number_file")
+  export DISPLAY
+}
+
+# A server that stays, and one program behind it. That program starts the system's own processes,
+# which keep the output they were started with: a test that had to start them would never be seen
+# to end by whoever reads its output.
+start_wine() {
+  wineserver -k 2>/dev/null || true
+  wineserver -p 2>/dev/null
+  wine cmd /c exit </dev/null >/dev/null 2>&1
+}
+
+end_bed() {
+  trap - EXIT INT TERM HUP
+  if [[ -n ${command_pid:-} ]]; then
+    kill "$command_pid" 2>/dev/null || true
+  fi
+  local prefix
+  for prefix in "${WINEPREFIX:-}" "${VELMORA_PREFIX_1252:-}"; do
+    if [[ -n $prefix && -d $prefix ]]; then
+      WINEPREFIX=$prefix wineserver -k 2>/dev/null || true
+      WINEPREFIX=$prefix wineserver -w 2>/dev/null || true
+    fi
+  done
+  if [[ -n ${xvfb_pid:-} ]]; then
+    kill "$xvfb_pid" 2>/dev/null || true
+    wait "$xvfb_pid" 2>/dev/null || true
+  fi
+}
+
+main() {
+  win64=no
+  local keep=no
+  if [[ ${1:-} != exec ]]; then
+    usage
+    [[ ${1:-} == --help ]] && return 0 || return 2
+  fi
+  shift
+  while [[ ${1:-} == --* ]]; do
+    case $1 in
+      --win64) win64=yes ;;
+      --keep) keep=yes ;;
+      --) shift; break ;;
+      *) usage >&2; return 2 ;;
+    esac
+    shift
+  done
+  [[ $# -gt 0 ]] || { usage >&2; return 2; }
+
+  mkdir -p "$bed"
+  exec {lock}>"$bed/lock"
+  if ! flock --nonblock "$lock"; then
+    echo "Waiting for the bed in $bed, which another command uses."
+    flock "$lock"
+  fi
+
+  trap end_bed EXIT
+  trap 'exit 130' INT
+  trap 'exit 143' TERM HUP
+  start_locale
+  start_prefixes
+  start_display
+  WINEARCH=win32 LC_ALL=C.UTF-8 WINEPREFIX=$VELMORA_PREFIX_1252 start_wine &
+  start_wine
+  wait $!
+
+  # In the background, so that a signal ends the bed at once and not only after COMMAND.
+  local status=0
+  "$@" <&0 {lock}>&- &
+  command_pid=$!
+  wait "$command_pid" || status=$?
+  command_pid=
+
+  if [[ $keep == yes ]]; then
+    echo "The bed is kept on display $DISPLAY with WINEPREFIX=$WINEPREFIX; Enter ends it."
+    read -r || true
+  fi
+  return "$status"
+}
+
+main "$@"
