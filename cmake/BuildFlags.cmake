@@ -14,7 +14,9 @@ target_compile_options(velmora_flags INTERFACE
   $<$<BOOL:${VELMORA_WERROR}>:-Werror>)
 
 # One file to hand out: the runtime is linked in. Address randomisation and no-execute are on.
+# Window programs start at wWinMain, console programs (the tests) at main.
 target_link_options(velmora_flags INTERFACE
-  -static -municode
+  -static
+  $<$<BOOL:$<TARGET_PROPERTY:WIN32_EXECUTABLE>>:-municode>
   -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat
   $<$<CONFIG:Release>:-s>)
