@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Configures and builds one preset of CMakePresets.json.
+#
+#   scripts/build.sh PRESET       debug, release or ci; the result stands in build/PRESET
+set -euo pipefail
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+readonly preset=${1:?"which preset: debug, release or ci"}
+
+# Two builds in one folder would overwrite each other's objects: the second one waits.
+mkdir -p build
+exec {lock}>"build/$preset.lock"
+flock "$lock"
+
+log=build/$preset-configure.log
+if ! cmake --preset "$preset" >"$log" 2>&1; then
+  cat "$log" >&2
+  exit 1
+fi
+cmake --build --preset "$preset" --parallel "$(nproc)"
