@@ -1,0 +1,40 @@
+#include "driver/GuiTest.h"
+
+#include <cstdio>
+
+#include "driver/Keys.h"
+#include "driver/Paths.h"
+#include "driver/Pointer.h"
+#include "driver/Screen.h"
+
+namespace gui {
+namespace {
+
+// Takes the picture at the first failure, while the windows of the test still stand.
+class ScreenshotOnFailure : public testing::EmptyTestEventListener {
+  void OnTestPartResult(const testing::TestPartResult& result) override {
+    if (!result.failed() || testing::UnitTest::GetInstance()->current_test_info() == lastFailed_) {
+      return;
+    }
+    lastFailed_ = testing::UnitTest::GetInstance()->current_test_info();
+    std::printf("screenshot: %s\n", SaveScreenshot(TestName()).string().c_str());
+  }
+
+  const testing::TestInfo* lastFailed_ = nullptr;
+};
+
+}  // namespace
+
+void SaveScreenshotOnFailure() {
+  // The listener list owns it.
+  testing::UnitTest::GetInstance()->listeners().Append(new ScreenshotOnFailure);
+}
+
+void GuiTest::SetUp() {
+  keys::Reset();
+  pointer::Park();
+}
+
+void GuiTest::TearDown() { keys::Reset(); }
+
+}  // namespace gui

@@ -1,0 +1,18 @@
+// What every GUI test stands on.
+#pragma once
+
+#include <gtest/gtest.h>
+
+namespace gui {
+
+// The pointer is parked and no key is down when a test begins.
+class GuiTest : public testing::Test {
+ protected:
+  void SetUp() override;
+  void TearDown() override;
+};
+
+// From now on the first failure of a test saves a screenshot named after the test.
+void SaveScreenshotOnFailure();
+
+}  // namespace gui

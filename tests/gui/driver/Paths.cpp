@@ -1,0 +1,44 @@
+#include "driver/Paths.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+
+namespace gui {
+namespace {
+
+// The build system writes paths of the building machine, which Wine shows on drive Z.
+std::filesystem::path FromBuildPath(std::string path) {
+  if (path.starts_with('/')) path.insert(0, "Z:");
+  return std::filesystem::path(path).make_preferred();
+}
+
+}  // namespace
+
+std::filesystem::path ProgramFile() { return FromBuildPath(GUI_PROGRAM_FILE); }
+
+std::filesystem::path FixtureFile() { return FromBuildPath(GUI_FIXTURE_FILE); }
+
+std::string TestName() {
+  const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
+  if (test == nullptr) return "no test";
+  std::string name = std::string(test->test_suite_name()) + "." + test->name();
+  std::replace(name.begin(), name.end(), '/', '-');
+  return name;
+}
+
+std::filesystem::path FreshFolder() {
+  const std::filesystem::path folder = FromBuildPath(GUI_SCRATCH_FOLDER) / TestName();
+  std::filesystem::remove_all(folder);
+  std::filesystem::create_directories(folder);
+  return folder;
+}
+
+std::filesystem::path ScreenshotFolder() {
+  const std::filesystem::path folder = FromBuildPath(GUI_SCREENSHOT_FOLDER);
+  std::filesystem::create_directories(folder);
+  return folder;
+}
+
+}  // namespace gui
