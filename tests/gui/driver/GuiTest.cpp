@@ -5,6 +5,7 @@
 #include "driver/Keys.h"
 #include "driver/Paths.h"
 #include "driver/Pointer.h"
+#include "driver/Resolution.h"
 #include "driver/Screen.h"
 
 namespace gui {
@@ -32,6 +33,7 @@ void SaveScreenshotOnFailure() {
 
 void GuiTest::SetUp() {
   keys::Reset();
+  RestoreResolution();
   pointer::Park();
 }
 

@@ -17,9 +17,10 @@ namespace gui {
 
 // How the program is started. Without `conf` there is no Conf.txt.
 struct ProgramStart {
-  std::optional<std::string> conf;  // UTF-8, lines end with "\n"
-  std::string arguments;
-  std::filesystem::path folder;  // of an earlier start; empty: a fresh one of the running test
+  std::optional<std::string> conf = std::nullopt;  // UTF-8, lines end with "\n"
+  std::string arguments = {};
+  // Of an earlier start; empty: a fresh one of the running test.
+  std::filesystem::path folder = {};
 };
 
 class Program {

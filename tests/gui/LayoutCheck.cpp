@@ -1,0 +1,156 @@
+#include "LayoutCheck.h"
+
+#include <algorithm>
+
+#include "driver/Owners.h"
+#include "driver/Text.h"
+#include "ui/ControlIds.h"
+
+namespace gui {
+namespace {
+
+struct Part {
+  Control control;
+  HWND parent;
+  int id;
+};
+
+std::vector<Part> VisibleParts(const Program& program) {
+  std::vector<Part> parts;
+  for (HWND window : Descendants(program.Window().Handle())) {
+    if (!IsWindowVisible(window)) continue;
+    const int id = GetDlgCtrlID(window);
+    parts.push_back({Control(window, std::to_string(id)), GetAncestor(window, GA_PARENT), id});
+  }
+  return parts;
+}
+
+std::string Describe(const Part& part) {
+  const RECT at = part.control.Rectangle();
+  return "control " + std::to_string(part.id) + " (" + std::to_string(at.left) + "," +
+         std::to_string(at.top) + ".." + std::to_string(at.right) + "," +
+         std::to_string(at.bottom) + ")";
+}
+
+bool IsBottomPane(int id) { return id == ui::txtWinTextB0 || id == ui::txtWinTextB1; }
+
+bool MayShareARow(const Part& first, const Part& second) {
+  return IsBottomPane(first.id) && second.id == ui::txtStatus &&
+         first.control.Rectangle().bottom <= second.control.Rectangle().top + 1;
+}
+
+// Measures texts in the message font.
+class Ruler {
+ public:
+  explicit Ruler(UINT dpi) {
+    NONCLIENTMETRICSW metrics = {};
+    metrics.cbSize = sizeof metrics;
+    SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi);
+    font_.reset(CreateFontIndirectW(&metrics.lfMessageFont));
+    dc_.reset(CreateCompatibleDC(nullptr));
+    SelectObject(dc_.get(), font_.get());
+  }
+
+  SIZE Measure(const std::string& utf8) const {
+    const std::wstring text = ToWide(utf8);
+    SIZE size = {};
+    GetTextExtentPoint32W(dc_.get(), text.c_str(), static_cast<int>(text.size()), &size);
+    return size;
+  }
+
+ private:
+  OwnedFont font_;
+  OwnedMemoryDc dc_;  // goes first: a font that is still selected cannot be deleted
+};
+
+// The longest text that a control usually shows; empty when its own caption counts.
+std::string LongestUsualText(int id) {
+  switch (id) {
+    case ui::lblMousePos:
+      return "1234-1080";
+    case ui::txthWnd:
+      return "4294901760";
+    case ui::lblMsg:
+      return "クリックでクリップボード転送";
+    case ui::lblStatus:
+      return "ESCで停止";
+    case ui::lblAutoStop:
+      return "3";
+    default:
+      return "";
+  }
+}
+
+// What a control needs beside its text.
+SIZE Surroundings(const Control& control, UINT dpi) {
+  const LONG unit = static_cast<LONG>(dpi);
+  const LONG_PTR kind = control.Style() & BS_TYPEMASK;
+  if (control.ClassName() == "Button" && kind == BS_AUTOCHECKBOX) {
+    return {(13 + 3) * unit / 96, 0};
+  }
+  if (control.ClassName() == "Button") return {6, 4};
+  if (control.ClassName() == "Edit") return {6, 2};
+  return {0, 0};
+}
+
+}  // namespace
+
+std::vector<std::string> Overlaps(const Program& program) {
+  const std::vector<Part> parts = VisibleParts(program);
+  std::vector<std::string> faults;
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    for (std::size_t j = i + 1; j < parts.size(); ++j) {
+      if (parts[i].parent != parts[j].parent) continue;
+      if (!Overlap(parts[i].control.Rectangle(), parts[j].control.Rectangle())) continue;
+      if (MayShareARow(parts[i], parts[j]) || MayShareARow(parts[j], parts[i])) continue;
+      faults.push_back(Describe(parts[i]) + " covers " + Describe(parts[j]));
+    }
+  }
+  return faults;
+}
+
+std::vector<std::string> Protruding(const Program& program) {
+  std::vector<std::string> faults;
+  for (const Part& part : VisibleParts(program)) {
+    const RECT at = part.control.Rectangle();
+    const RECT inner = InnerArea(Control(part.parent, "parent"));
+    if (at.left < inner.left || at.top < inner.top || at.right > inner.right ||
+        at.bottom > inner.bottom) {
+      faults.push_back(Describe(part) + " reaches beyond (" + std::to_string(inner.left) + "," +
+                       std::to_string(inner.top) + ".." + std::to_string(inner.right) + "," +
+                       std::to_string(inner.bottom) + ")");
+    }
+  }
+  return faults;
+}
+
+std::vector<std::string> ClippedTexts(const Program& program, UINT dpi) {
+  const Ruler ruler(dpi);
+  std::vector<std::string> faults;
+  for (HWND window : Descendants(program.Window().Handle())) {
+    const int id = GetDlgCtrlID(window);
+    const Control control(window, std::to_string(id));
+    std::string text = LongestUsualText(id);
+    if (text.empty() && control.ClassName() != "Edit") text = control.Text();
+    if (text.empty()) continue;
+    const SIZE needed = ruler.Measure(text);
+    const SIZE around = Surroundings(control, dpi);
+    const SIZE room = control.Size();
+    if (needed.cx + around.cx > room.cx || needed.cy + around.cy > room.cy) {
+      faults.push_back("control " + std::to_string(id) + " (" + std::to_string(room.cx) + "x" +
+                       std::to_string(room.cy) + ") needs " +
+                       std::to_string(needed.cx + around.cx) + "x" +
+                       std::to_string(needed.cy + around.cy) + " for \"" + text + "\"");
+    }
+  }
+  return faults;
+}
+
+RECT InnerArea(const Control& window) {
+  RECT area = {};
+  GetClientRect(window.Handle(), &area);
+  MapWindowPoints(window.Handle(), nullptr, reinterpret_cast<POINT*>(&area), 2);
+  return area;
+}
+
+}  // namespace gui

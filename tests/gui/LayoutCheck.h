@@ -1,0 +1,29 @@
+// What a user would call a broken layout, found from outside.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "driver/Program.h"
+
+namespace gui {
+
+// Each function returns one line for every fault, so an empty list means that all is well.
+
+// Visible controls of the same parent that cover each other. The bottom pane and the status box
+// may share one pixel row: they are laid out so.
+std::vector<std::string> Overlaps(const Program& program);
+
+// Visible controls that reach beyond their parent's inner area.
+std::vector<std::string> Protruding(const Program& program);
+
+// Captions, and boxes with their longest usual text, that are wider or higher than their control
+// in the message font of that resolution.
+std::vector<std::string> ClippedTexts(const Program& program, UINT dpi);
+
+// The inner area of the main window in screen pixels.
+RECT InnerArea(const Control& window);
+
+}  // namespace gui

@@ -1,0 +1,153 @@
+// Where the main window's controls stand, at every size and resolution.
+#include <windows.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "LayoutCheck.h"
+#include "SettingsText.h"
+#include "driver/GuiTest.h"
+#include "driver/Program.h"
+#include "driver/Resolution.h"
+#include "driver/Screen.h"
+#include "ui/ControlIds.h"
+
+namespace gui {
+namespace {
+
+using testing::IsEmpty;
+
+class LayoutTest : public GuiTest {
+ protected:
+  static testing::AssertionResult HeightBecomes(const Control& control, long height) {
+    return TextBecomes("the height", std::to_string(height),
+                       [&] { return std::to_string(control.Size().cy); });
+  }
+};
+
+TEST_F(LayoutTest, WindowIsNeverLowerThanItsSmallestHeight) {
+  const Program program;
+  program.MoveWindowTo(50, 50, 400, 120);
+  EXPECT_TRUE(HeightBecomes(program.Window(), 3150 / 15));
+  EXPECT_EQ(program.Window().Size().cx, 400);
+}
+
+TEST_F(LayoutTest, RightPartsFollowTheWindowsWidth) {
+  const Program program;
+  for (const int width : {640, 420}) {
+    program.MoveWindowTo(50, 50, width, 427);
+    const LONG right = 50 + width - (50 + width - InnerArea(program.Window()).right);
+    for (const int id : {ui::chkAutoStop, ui::chkTurnBack, ui::fr_Mous, ui::fr_Help}) {
+      EXPECT_TRUE(TextBecomes("the right edge", std::to_string(right), [&] {
+        return std::to_string(program[id].Rectangle().right);
+      })) << "control "
+          << id << ", width " << width;
+    }
+    const RECT inner = InnerArea(program.Window());
+    EXPECT_EQ(program.TopPane().Rectangle().left, inner.left + 2);
+    EXPECT_EQ(program.TopPane().Rectangle().right, inner.right);
+    EXPECT_EQ(program.BottomPane().Rectangle().right, inner.right);
+    EXPECT_EQ(program[ui::fr_Help].Rectangle().bottom, inner.bottom - 5);
+  }
+}
+
+TEST_F(LayoutTest, UnmovedPartsKeepTheirPlace) {
+  const Program program;
+  const auto place = [&](int id) {
+    const RECT at = program[id].Rectangle();
+    const RECT inner = InnerArea(program.Window());
+    return std::make_tuple(at.left - inner.left, at.top - inner.top, at.right - at.left,
+                           at.bottom - at.top);
+  };
+  const auto go = place(ui::cmdGo);
+  const auto setting = place(ui::cmdSetting);
+  program.MoveWindowTo(20, 20, 900, 800);
+  ASSERT_TRUE(HeightBecomes(program.Window(), 800));
+  EXPECT_EQ(place(ui::cmdGo), go);
+  EXPECT_EQ(place(ui::cmdSetting), setting);
+}
+
+TEST_F(LayoutTest, LostHeightOfTheTopPaneDoesNotComeBack) {
+  Program program({.conf = "form left = 40\nform top = 40\nform right = 540\n"
+                           "form bottom = 740\ntop height = 6000\n"});
+  ASSERT_EQ(program.TopPane().Size().cy, 400);
+
+  program.MoveWindowTo(40, 40, 500, 400);
+  ASSERT_TRUE(HeightBecomes(program.Window(), 400));
+  const RECT inner = InnerArea(program.Window());
+  const LONG expected = inner.bottom - program.TopPane().Rectangle().top - 1500 / 15;
+  EXPECT_TRUE(HeightBecomes(program.TopPane(), expected));
+
+  program.MoveWindowTo(40, 40, 500, 700);
+  ASSERT_TRUE(HeightBecomes(program.Window(), 700));
+  EXPECT_EQ(program.TopPane().Size().cy, expected);
+  ASSERT_EQ(program.CloseAndWait(), 0U);
+  EXPECT_EQ(ValueOf(program.ConfLines(), "top height"), std::to_string(expected * 15));
+}
+
+TEST_F(LayoutTest, HeightThatFitsIsKeptWhenTheWindowShrinks) {
+  const Program program({.conf = "form left = 40\nform top = 40\nform right = 540\n"
+                                 "form bottom = 740\ntop height = 1500\n"});
+  program.MoveWindowTo(40, 40, 500, 450);
+  ASSERT_TRUE(HeightBecomes(program.Window(), 450));
+  EXPECT_EQ(program.TopPane().Size().cy, 100);
+}
+
+TEST_F(LayoutTest, VeryNarrowWindowKeepsWorking) {
+  const Program program;
+  const SIZE before = program[ui::lblStatus].Size();
+  program.MoveWindowTo(50, 50, 60, 427);
+  ASSERT_TRUE(WaitFor("the window is narrow",
+                      [&](std::string&) { return program.Window().Size().cx < 200; }));
+  EXPECT_GT(program[ui::lblStatus].Size().cx, 0);
+  // The steps that can still be carried out are: the foot stands at its place.
+  EXPECT_EQ(program[ui::fr_Help].Rectangle().bottom, InnerArea(program.Window()).bottom - 5);
+
+  program.MoveWindowTo(50, 50, 384, 427);
+  EXPECT_TRUE(TextBecomes("the status label's width", std::to_string(before.cx),
+                          [&] { return std::to_string(program[ui::lblStatus].Size().cx); }));
+}
+
+// The window that a screen of the usual physical size gives at that resolution.
+std::string ConfFor(UINT dpi, int height96) {
+  const auto scaled = [&](int pixels) { return pixels * static_cast<int>(dpi) / 96; };
+  return "form left = 100\nform top = 20\nform right = " + std::to_string(100 + scaled(384)) +
+         "\nform bottom = " + std::to_string(20 + scaled(height96)) + "\n";
+}
+
+class ResolutionTest : public GuiTest, public testing::WithParamInterface<UINT> {};
+
+TEST_P(ResolutionTest, DefaultSizeShowsEverything) {
+  const Resolution resolution(GetParam());
+  const Program program({.conf = ConfFor(GetParam(), 427)});
+  EXPECT_EQ(GetDpiForWindow(program.Window().Handle()), GetParam());
+  EXPECT_THAT(Overlaps(program), IsEmpty());
+  EXPECT_THAT(Protruding(program), IsEmpty());
+  EXPECT_THAT(ClippedTexts(program, GetParam()), IsEmpty());
+  SaveScreenshot("default-" + std::to_string(GetParam()));
+}
+
+TEST_P(ResolutionTest, SmallestSizeShowsEverything) {
+  const Resolution resolution(GetParam());
+  const Program program({.conf = ConfFor(GetParam(), 100) + "top height = 300\n"});
+  EXPECT_EQ(program.Window().Size().cy, 210 * static_cast<LONG>(GetParam()) / 96);
+  EXPECT_THAT(Overlaps(program), IsEmpty());
+  EXPECT_THAT(Protruding(program), IsEmpty());
+  EXPECT_THAT(ClippedTexts(program, GetParam()), IsEmpty());
+  SaveScreenshot("smallest-" + std::to_string(GetParam()));
+}
+
+TEST_P(ResolutionTest, StoredSizesSurvive) {
+  const Resolution resolution(GetParam());
+  Program program({.conf = ConfFor(GetParam(), 427) + "top height = 1500\n"});
+  EXPECT_EQ(program.TopPane().Size().cy, 1500 * static_cast<LONG>(GetParam()) / 1440);
+  ASSERT_EQ(program.CloseAndWait(), 0U);
+  EXPECT_EQ(ValueOf(program.ConfLines(), "top height"), "1500");
+  EXPECT_EQ(ValueOf(program.ConfLines(), "form left"), "100");
+}
+
+INSTANTIATE_TEST_SUITE_P(Dpi, ResolutionTest, testing::Values(96U, 120U, 144U, 192U),
+                         testing::PrintToStringParamName());
+
+}  // namespace
+}  // namespace gui

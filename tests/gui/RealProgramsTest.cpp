@@ -1,0 +1,100 @@
+// Captures over programs that nobody here wrote.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "driver/GuiTest.h"
+#include "driver/Paths.h"
+#include "driver/Pointer.h"
+#include "driver/Program.h"
+#include "driver/Screen.h"
+#include "driver/Target.h"
+#include "driver/Text.h"
+#include "driver/Windows.h"
+#include "ui/ControlIds.h"
+
+namespace gui {
+namespace {
+
+class RealProgramsTest : public GuiTest {
+ protected:
+  // Moves the pointer there and waits until the boxes tell what the system finds at that point.
+  static void ExpectReport(const Program& program, POINT point, const Control& target) {
+    pointer::MoveTo(point);
+    ASSERT_EQ(WindowFromPoint(point), target.Handle());
+    EXPECT_TRUE(program[ui::txthWnd].TextBecomes(target.HandleText()));
+    EXPECT_TRUE(program[ui::txtWin0].TextBecomes(target.ClassName()));
+    EXPECT_TRUE(program[ui::lblMsg].TextBecomes(""));
+  }
+
+  static POINT CaptionOf(const Control& window) {
+    const RECT at = window.Rectangle();
+    return {at.left + 80, at.top + 12};
+  }
+};
+
+TEST_F(RealProgramsTest, NotepadWithAJapaneseText) {
+  const std::string text = "吾輩は猫である。\r\n名前はまだ無い。\r\nABC ｶﾅ 123";
+  const std::filesystem::path file = FreshFolder() / "猫.txt";
+  {
+    std::ofstream out(file, std::ios::binary);
+    out << ToCodePage(text);
+  }
+  const std::string argument = ToUtf8(file.wstring());  // holds no blank
+  const WineProgram notepad("notepad.exe", argument, "Notepad");
+  notepad.MoveTo(30, 30, 560, 420);
+  const Program program({.folder = file.parent_path()});
+  program.StartCapture();
+
+  const Control edit = notepad.Inside("Edit");
+  ASSERT_TRUE(edit.TextBecomes(text));
+  ExpectReport(program, edit.Center(), edit);
+  EXPECT_TRUE(program.TopPane().TextBecomes(text));
+  SaveScreenshot("notepad");
+
+  ExpectReport(program, CaptionOf(notepad.Window()), notepad.Window());
+  EXPECT_TRUE(program.TopPane().TextBecomes(notepad.Window().Text()));
+  EXPECT_NE(notepad.Window().Text().find("猫"), std::string::npos);
+}
+
+TEST_F(RealProgramsTest, RegistryEditor) {
+  const WineProgram regedit("regedit.exe", "", "RegEdit_RegEdit");
+  regedit.MoveTo(30, 30, 580, 460);
+  const Program program;
+  program.StartCapture();
+  for (const char* className : {"SysTreeView32", "SysListView32"}) {
+    const Control part = regedit.Inside(className);
+    const RECT at = part.Rectangle();
+    ExpectReport(program, {at.left + 40, at.bottom - 40}, part);
+    EXPECT_TRUE(program.TopPane().TextBecomes(part.Text()));
+  }
+  ExpectReport(program, CaptionOf(regedit.Window()), regedit.Window());
+  EXPECT_TRUE(program.TopPane().TextBecomes(regedit.Window().Text()));
+  EXPECT_NE(regedit.Window().Text(), "");
+  SaveScreenshot("regedit");
+}
+
+TEST_F(RealProgramsTest, WineConfiguration) {
+  const WineProgram winecfg("winecfg.exe", "", "#32770");
+  winecfg.MoveTo(30, 30, 0, 0);
+  const Program program;
+  program.StartCapture();
+  ExpectReport(program, CaptionOf(winecfg.Window()), winecfg.Window());
+  EXPECT_TRUE(program.TopPane().TextBecomes(winecfg.Window().Text()));
+  EXPECT_NE(winecfg.Window().Text(), "");
+
+  const Control list = winecfg.Inside("SysListView32");
+  ExpectReport(program, list.Center(), list);
+  const Control button = winecfg.Inside("Button");
+  SaveScreenshot("winecfg");
+  if (WindowFromPoint(button.Center()) == button.Handle()) {
+    ExpectReport(program, button.Center(), button);
+    EXPECT_TRUE(program.TopPane().TextBecomes(button.Text()));
+  }
+}
+
+}  // namespace
+}  // namespace gui
