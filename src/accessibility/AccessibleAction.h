@@ -1,0 +1,20 @@
+// A test aid: performs an action on the accessible object at the read point.
+#pragma once
+
+#include <windows.h>
+
+#include <oleacc.h>
+
+#include <cstdint>
+
+namespace MyAccessible {
+
+// mode 1: the default action; 2: accSelect with SELFLAG_TAKEFOCUS; 3: accSelect with
+// SELFLAG_TAKESELECTION; any other does nothing. Returns true only when object is none, after
+// saying so in a message box. A call that fails is reported in a message box.
+bool AccAction(std::int32_t mode, IAccessible* object, const VARIANT& child);
+
+// AccAction on the object at a screen point (pixels).
+bool AccActionAt(std::int32_t mode, POINT point);
+
+}  // namespace MyAccessible

@@ -1,0 +1,41 @@
+// What the capture loop asks Windows and the readers for. Tests put a recorder in its place, which
+// also moves the clock.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace capture {
+
+class CaptureSystem {
+ public:
+  virtual ~CaptureSystem() = default;
+
+  virtual std::uint32_t TickCount() = 0;  // milliseconds, wraps after 49.7 days
+  virtual void Sleep(std::uint32_t milliseconds) = 0;
+  virtual void Pump() = 0;
+
+  virtual POINT CursorPosition() = 0;
+  virtual HWND WindowAt(POINT point) = 0;
+  virtual HWND Parent(HWND hwnd) = 0;
+  virtual HWND TopParent(HWND hwnd) = 0;
+  virtual POINT ToClient(HWND hwnd, POINT point) = 0;
+  virtual HWND Foreground() = 0;
+
+  virtual bool HotKeyPressed(std::int32_t code) = 0;
+  virtual bool IsKeyDown(std::int32_t virtualKey) = 0;
+  virtual void SendSelectAll() = 0;
+
+  virtual bool PutOnClipboard(const std::wstring& text) = 0;
+  virtual void PlayChime(const std::wstring& file) = 0;
+  virtual std::wstring TooltipText() = 0;
+  virtual void AccAction(std::int32_t mode, POINT point) = 0;
+};
+
+// The real one. owner is the window that owns what is put on the clipboard.
+std::unique_ptr<CaptureSystem> MakeCaptureSystem(HWND owner);
+
+}  // namespace capture

@@ -1,0 +1,12 @@
+// The tick of Timer2: where the pointer is and which window lies there.
+#pragma once
+
+#include "capture/CaptureContext.h"
+
+namespace capture {
+
+// While a capture runs: notes the point to read, the window at it, and shows the pointer's
+// position. Otherwise there is no target window.
+void SamplePointer(const CaptureContext& context);
+
+}  // namespace capture

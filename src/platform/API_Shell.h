@@ -1,0 +1,29 @@
+// Shell services: special folders, the program's own folder, links and sounds.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace API_Shell {
+
+// Shell folder identifiers, the CSIDL_ constants of the Windows documentation.
+constexpr unsigned char kDesktopFolder = 16;
+constexpr unsigned char kWindowsFolder = 36;
+
+// The path of a special folder, without a trailing backslash; empty when the query fails.
+std::wstring FolderPath(unsigned char folderId);
+
+// The folder that holds the program file, without a trailing backslash except on a drive root.
+std::filesystem::path ProgramFolder();
+
+// Starts "explorer.exe " followed by target in a normal window and does not wait. A failure is
+// not reported.
+void OpenWithExplorer(const std::wstring& target);
+
+// The sound call's flags: SND_SYNC (0), or SND_LOOP (8) when repeat is set.
+unsigned SoundFlags(bool repeat);
+
+// Plays a wave file with these flags, so without repeat to its end before returning. Returns false when the file could not be played.
+bool PlaySoundFile(const std::wstring& path, bool repeat);
+
+}  // namespace API_Shell

@@ -1,0 +1,38 @@
+// Message boxes: shown through one replaceable function, and never a second while one is open.
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+using MessageBoxFunction = std::function<void(const std::wstring& text, const std::wstring& title)>;
+
+// Replaces the function that shows a message box with an OK button; returns the one before, so
+// that a test can put it back.
+MessageBoxFunction SetMessageBox(MessageBoxFunction function);
+
+// Shows text under title and waits for OK. Returns false, showing nothing, while another box of
+// this program is open.
+bool ShowMessage(const std::wstring& text, const std::wstring& title);
+
+// An error with a number, as the system counts them.
+class NumberedError : public std::exception {
+ public:
+  NumberedError(long number, std::wstring description)
+      : number_(number), description_(std::move(description)) {}
+  long Number() const noexcept { return number_; }
+  const std::wstring& Description() const noexcept { return description_; }
+
+ private:
+  long number_;
+  std::wstring description_;
+};
+
+// The program's common error report: number, a blank, description; titled with the name of the
+// procedure that failed.
+void ReportError(std::wstring_view procedure, const NumberedError& error);
+
+}  // namespace platform

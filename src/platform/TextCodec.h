@@ -1,0 +1,17 @@
+// The only place where texts change between UTF-16 and the system's ANSI code page.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace platform {
+
+// text in the system's ANSI code page. A character that the code page cannot hold becomes the
+// code page's replacement character (one byte). An empty text gives an empty text.
+std::string ToAnsi(std::wstring_view text);
+
+// bytes of the system's ANSI code page as UTF-16. Invalid bytes become replacement characters;
+// nothing is dropped and nothing fails.
+std::wstring FromAnsi(std::string_view bytes);
+
+}  // namespace platform

@@ -1,0 +1,51 @@
+// Conf.txt beside the program: read once when the program starts, written once when it ends.
+#pragma once
+
+#include <filesystem>
+#include <ostream>
+
+#include "settings/ConfigKeys.h"
+
+namespace settings {
+
+// The main window, as far as the configuration is applied to it and taken back from it.
+class ConfigWindow {
+ public:
+  virtual ~ConfigWindow() = default;
+
+  virtual ScreenTwips Screen() const = 0;
+  // While the layout is held back, Form_Resize does nothing.
+  virtual void HoldLayout(bool hold) = 0;
+  // Gives the window this restored rectangle (pixels) and shows it, without any check against the
+  // screen.
+  virtual void ApplyPlacement(const WindowValues& values) = 0;
+  // The window's restored rectangle; turnBack is the box's value.
+  virtual WindowValues CurrentValues() const = 0;
+  // The pointer position label in the colour RGB(128, 128, 255).
+  virtual void HighlightMousePos() = 0;
+  // Put a value into a box; a box holds 0 or 1, and every other value counts as 1. Return what
+  // the box then holds.
+  virtual std::int32_t SetTurnBackBox(std::int32_t value) = 0;
+  virtual std::int32_t SetDetailBox(std::int32_t value) = 0;
+  virtual std::int32_t SetAutoStopBox(std::int32_t value) = 0;
+  // Height of the visible top pane, in twips.
+  virtual void SetVisibleTopPaneHeight(std::int32_t height) = 0;
+  virtual void RunLayout() = 0;
+};
+
+// folder + "\" + "Conf.txt".
+std::filesystem::path ConfigPath(const std::filesystem::path& folder);
+
+// Sets the defaults in record, reads the file at path if there is one, and applies to window what
+// belongs to it. A file that cannot be opened counts as no file. Reports nothing.
+void LoadConfig(const std::filesystem::path& path, ConfigWindow& window, Settings& record);
+
+// Writes all values to the file at path, replacing it. An error ends the writing silently; the
+// lines written so far stay.
+void SaveConfig(const std::filesystem::path& path, const ConfigWindow& window,
+                const Settings& record);
+
+// Writes the lines of values to out in the system's ANSI code page, until out fails.
+void WriteConfig(std::ostream& out, const ConfigValues& values);
+
+}  // namespace settings

@@ -1,0 +1,17 @@
+// The keyboard as the polled keys see it.
+#pragma once
+
+namespace settings {
+
+// Answers as GetAsyncKeyState does for a virtual key: bit 15 is set while it is down, bit 0 when
+// it was pressed since the last query.
+class KeyboardState {
+ public:
+  virtual ~KeyboardState() = default;
+  virtual short AsyncKeyState(int virtualKey) const = 0;
+};
+
+// The real keyboard.
+const KeyboardState& SystemKeyboard();
+
+}  // namespace settings

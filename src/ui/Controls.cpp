@@ -1,0 +1,94 @@
+#include "ui/Controls.h"
+
+namespace ui {
+namespace {
+
+LRESULT CALLBACK FrameProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  switch (message) {
+    case WM_COMMAND:
+    case WM_NOTIFY:
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLOREDIT:
+      return SendMessageW(GetParent(hwnd), message, wParam, lParam);
+    default:
+      return DefWindowProcW(hwnd, message, wParam, lParam);
+  }
+}
+
+void RegisterFrameClass() {
+  const HINSTANCE instance = GetModuleHandleW(nullptr);
+  WNDCLASSEXW frame{};
+  frame.cbSize = sizeof frame;
+  if (GetClassInfoExW(instance, kFrameClass, &frame)) return;
+  frame.lpfnWndProc = FrameProcedure;
+  frame.hInstance = instance;
+  frame.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  frame.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+  frame.lpszClassName = kFrameClass;
+  RegisterClassExW(&frame);
+}
+
+bool IsFrame(const ControlRow& row) { return row.className == kFrameClass; }
+
+platform::UniqueFont MessageFont(UINT dpi) {
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, dpi);
+  return platform::UniqueFont(CreateFontIndirectW(&metrics.lfMessageFont));
+}
+
+}  // namespace
+
+void ControlSet::Create(HWND window, std::span<const ControlRow> rows) {
+  RegisterFrameClass();
+  rows_ = rows;
+  for (const ControlRow& row : rows) {
+    const HWND parent = row.parent == 0 ? window : windows_.at(row.parent);
+    const DWORD exStyle = IsFrame(row) ? WS_EX_CONTROLPARENT : 0;
+    windows_[row.id] = CreateWindowExW(
+        exStyle, row.className, row.caption, row.style | WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 0, 0,
+        parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)), GetModuleHandleW(nullptr),
+        nullptr);
+  }
+}
+
+HWND ControlSet::operator[](int id) const {
+  const auto found = windows_.find(id);
+  return found == windows_.end() ? nullptr : found->second;
+}
+
+void ControlSet::PlaceAll(const TwipsScale& scale) {
+  for (const ControlRow& row : rows_) Place(row.id, row.place, scale);
+}
+
+void ControlSet::Place(int id, const TwipsRect& place, const TwipsScale& scale) {
+  const RECT pixels = scale.Pixels(place);
+  SetWindowPos((*this)[id], nullptr, pixels.left, pixels.top, pixels.right - pixels.left,
+               pixels.bottom - pixels.top, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void ControlSet::UseMessageFont(UINT dpi) {
+  platform::UniqueFont font = MessageFont(dpi);
+  for (const auto& [id, window] : windows_) {
+    SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), TRUE);
+  }
+  font_ = std::move(font);
+}
+
+std::wstring WindowText(HWND hwnd) {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(hwnd)), L'\0');
+  const int length = GetWindowTextW(hwnd, text.data(), static_cast<int>(text.size()) + 1);
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
+
+int BoxValue(HWND box) {
+  return SendMessageW(box, BM_GETCHECK, 0, 0) == BST_CHECKED ? 1 : 0;
+}
+
+void SetBox(HWND box, int value) {
+  SendMessageW(box, BM_SETCHECK, value != 0 ? BST_CHECKED : BST_UNCHECKED, 0);
+}
+
+}  // namespace ui

@@ -1,0 +1,57 @@
+// Controls as rows of a table, created in one loop and found by their number.
+#pragma once
+
+#include <windows.h>
+
+#include <map>
+#include <span>
+#include <string>
+
+#include "platform/UniqueHandle.h"
+#include "ui/Twips.h"
+
+namespace ui {
+
+// A container for other controls, WS_EX_CONTROLPARENT, that hands their notifications on.
+constexpr const wchar_t* kFrameClass = L"VelmoraFrame";
+
+struct ControlRow {
+  int id;
+  int parent;  // the number of its frame; 0: the window itself
+  const wchar_t* className;
+  DWORD style;  // beside WS_CHILD
+  const wchar_t* caption;
+  TwipsRect place;  // in its parent
+};
+
+class ControlSet {
+ public:
+  // Creates every row's control in window. Rows stand in the order of the Tab key; a frame stands
+  // before what it contains.
+  void Create(HWND window, std::span<const ControlRow> rows);
+
+  // The control's window; null for a number that no row has.
+  HWND operator[](int id) const;
+
+  // Puts every control where its row says, at this scale.
+  void PlaceAll(const TwipsScale& scale);
+  void Place(int id, const TwipsRect& place, const TwipsScale& scale);
+
+  // Gives every control the system's message font at dpi dots per inch.
+  void UseMessageFont(UINT dpi);
+  HFONT Font() const { return font_.Get(); }
+
+ private:
+  std::span<const ControlRow> rows_;
+  std::map<int, HWND> windows_;
+  platform::UniqueFont font_;
+};
+
+// The text of a window of this thread.
+std::wstring WindowText(HWND hwnd);
+
+// A check box: 0 or 1. Every value but 0 counts as 1.
+int BoxValue(HWND box);
+void SetBox(HWND box, int value);
+
+}  // namespace ui

@@ -1,0 +1,49 @@
+// Twips, the unit that windows are laid out in: 1/1440 inch, so 15 to a pixel at 96 dots per inch.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+
+#include "platform/Rounding.h"
+
+namespace ui {
+
+struct TwipsRect {
+  std::int32_t left = 0;
+  std::int32_t top = 0;
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+
+  std::int32_t Right() const { return left + width; }
+  std::int32_t Bottom() const { return top + height; }
+  bool operator==(const TwipsRect&) const = default;
+};
+
+struct TwipsScale {
+  std::int32_t TwipsPerPixelX = 15;
+  std::int32_t TwipsPerPixelY = 15;
+
+  std::int32_t PixelsX(std::int32_t twips) const {
+    return platform::RoundedRatio(twips, TwipsPerPixelX);
+  }
+  std::int32_t PixelsY(std::int32_t twips) const {
+    return platform::RoundedRatio(twips, TwipsPerPixelY);
+  }
+  std::int32_t TwipsX(std::int32_t pixels) const { return pixels * TwipsPerPixelX; }
+  std::int32_t TwipsY(std::int32_t pixels) const { return pixels * TwipsPerPixelY; }
+
+  // Edges are rounded one by one, so that neighbours neither overlap nor leave a gap.
+  RECT Pixels(const TwipsRect& rect) const {
+    return {PixelsX(rect.left), PixelsY(rect.top), PixelsX(rect.Right()), PixelsY(rect.Bottom())};
+  }
+};
+
+// The scale of a window at dpi dots per inch. Where 1440 is no multiple of it the whole part
+// counts: controls come out a little larger than their texts, never smaller.
+constexpr TwipsScale ScaleForDpi(UINT dpi) {
+  const auto twips = static_cast<std::int32_t>(1440 / dpi);
+  return {twips, twips};
+}
+
+}  // namespace ui

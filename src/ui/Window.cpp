@@ -1,0 +1,52 @@
+#include "ui/Window.h"
+
+namespace ui {
+
+Window::~Window() {
+  if (hwnd_ == nullptr) return;
+  SetWindowLongPtrW(hwnd_, GWLP_USERDATA, 0);
+  DestroyWindow(hwnd_);
+}
+
+bool Window::Create(const WindowPlan& plan) {
+  const HINSTANCE instance = GetModuleHandleW(nullptr);
+  WNDCLASSEXW windowClass{};
+  windowClass.cbSize = sizeof windowClass;
+  if (!GetClassInfoExW(instance, plan.className, &windowClass)) {
+    windowClass.lpfnWndProc = Thunk;
+    windowClass.hInstance = instance;
+    windowClass.hIcon = plan.icon;
+    windowClass.hIconSm = plan.smallIcon;
+    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    windowClass.hbrBackground = plan.background;
+    windowClass.lpszClassName = plan.className;
+    RegisterClassExW(&windowClass);
+  }
+  const RECT& place = plan.place;
+  CreateWindowExW(plan.exStyle, plan.className, plan.caption, plan.style, place.left, place.top,
+                  place.right, place.bottom, plan.parentOrOwner, nullptr, instance, this);
+  return hwnd_ != nullptr;
+}
+
+LRESULT CALLBACK Window::Thunk(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  if (message == WM_NCCREATE) {
+    auto* const created =
+        static_cast<Window*>(reinterpret_cast<const CREATESTRUCTW*>(lParam)->lpCreateParams);
+    created->hwnd_ = hwnd;
+    SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
+  }
+  auto* const self = reinterpret_cast<Window*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
+  if (self == nullptr) return DefWindowProcW(hwnd, message, wParam, lParam);
+  if (message == WM_NCDESTROY) {
+    SetWindowLongPtrW(hwnd, GWLP_USERDATA, 0);
+    self->hwnd_ = nullptr;
+    return DefWindowProcW(hwnd, message, wParam, lParam);
+  }
+  try {
+    return self->HandleMessage(message, wParam, lParam);
+  } catch (...) {
+    return 0;
+  }
+}
+
+}  // namespace ui

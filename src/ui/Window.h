@@ -1,0 +1,49 @@
+// A window of this program whose messages a C++ object handles.
+#pragma once
+
+#include <windows.h>
+
+#include <string_view>
+
+namespace ui {
+
+struct WindowPlan {
+  const wchar_t* className;
+  const wchar_t* caption = L"";
+  DWORD style = 0;
+  DWORD exStyle = 0;
+  HWND parentOrOwner = nullptr;
+  HICON icon = nullptr;
+  HICON smallIcon = nullptr;
+  HBRUSH background = nullptr;  // stays the caller's
+  RECT place{CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};  // left, top, width, height in pixels
+};
+
+class Window {
+ public:
+  Window() = default;
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+  virtual ~Window();
+
+  HWND Handle() const noexcept { return hwnd_; }
+
+ protected:
+  // Creates the window; its class is registered with the first window of that class. Returns
+  // whether it was created.
+  bool Create(const WindowPlan& plan);
+
+  // One call a message, DefWindowProc for the rest. An exception that leaves it is swallowed.
+  virtual LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) = 0;
+
+  LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam) {
+    return DefWindowProcW(hwnd_, message, wParam, lParam);
+  }
+
+ private:
+  static LRESULT CALLBACK Thunk(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+
+  HWND hwnd_ = nullptr;
+};
+
+}  // namespace ui

@@ -1,0 +1,91 @@
+// The main window: what its messages do.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "capture/CaptureLoop.h"
+#include "capture/CaptureState.h"
+#include "capture/CaptureSystem.h"
+#include "settings/Settings.h"
+#include "ui/MainWindowConfig.h"
+#include "ui/MainWindowFace.h"
+#include "ui/MainWindowView.h"
+#include "ui/StartUp.h"
+#include "ui/Window.h"
+
+namespace ui {
+
+struct MainWindowPlan {
+  std::filesystem::path folder;  // where Conf.txt and the help page are
+  std::wstring commandLine;      // what follows the program's name
+  std::function<void()> endProgram;
+};
+
+class frmQuorvinFromPoint : public Window, private StartUpSteps {
+ public:
+  frmQuorvinFromPoint(settings::Settings& settings, capture::CaptureState& state,
+                      MainWindowPlan plan);
+  ~frmQuorvinFromPoint() override;
+
+  // Creates the window and runs its start-up. Returns false when the system gives no window.
+  bool Load();
+
+ protected:
+  LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  // Start-up.
+  void ShowVersion() override;
+  void TakeTwipsPerPixel() override;
+  void PrepareLabels() override;
+  void LoadConfig() override;
+  void ApplyDisplaySettings() override;
+  void ShowStopHint() override;
+  void SetActionKey() override;
+  void StartIdlePolling() override;
+  void StartCaptureSoon() override;
+
+  // Messages.
+  LRESULT OnCommand(int id, int notification);
+  LRESULT OnNotify(const NMHDR& header);
+  void OnTimer(capture::CaptureTimer timer);
+  void OnActivate(bool active);
+  void OnDpiChanged(UINT dpi, const RECT& suggested);
+  void OnSplitter(WPARAM event, int yPixels);
+  LRESULT OnGetDefaultButton() const;
+
+  // Controls.
+  void cmdGo_Click();
+  void chkAutoStop_Click();
+  void chkDetail_Click();
+  void chkTurnBack_Click();
+  void lblMousePos_DblClick();
+  void lblMsg_DblClick();
+  void txthWnd_DblClick();
+  void Help_Url_Click();
+  void MyUrl_Click();
+
+  // Closing.
+  void Form_Unload();
+  void Timer_End_Timer();
+  void SaveConfig();
+
+  void ShowMousePosTip();
+  capture::CaptureContext Context();
+
+  settings::Settings& settings_;
+  capture::CaptureState& state_;
+  MainWindowPlan plan_;
+  MainWindowFace face_;
+  MainWindowView view_;
+  MainWindowConfig config_;
+  std::unique_ptr<capture::CaptureSystem> system_;
+  std::unique_ptr<capture::CaptureLoop> loop_;
+  HWND lastFocus_ = nullptr;
+  bool SplitterMoving_ = false;
+};
+
+}  // namespace ui
