@@ -1,15 +1,16 @@
 #!/usr/bin/env bash
 # The test bed: a Japanese Windows (Wine in code page 932) with a virtual screen of its own.
 #
-#   scripts/bed.sh exec [--win64] [--keep] [--] COMMAND [ARGUMENT…]
+#   scripts/bed.sh exec [OPTION…] [--] COMMAND [ARGUMENT…]
 #
 # starts the bed, runs COMMAND in it, ends everything that belongs to the bed, and gives back
 # COMMAND's exit code. For a shell with a screen:  scripts/bed.sh exec bash
-#   --win64   the prefix of a 64-bit Windows, which runs both kinds of program
-#   --keep    after COMMAND wait for Enter before ending the bed
+#   --win64    the prefix of a 64-bit Windows, which runs both kinds of program
+#   --cp1252   also a prefix in code page 1252, for scripts/in-cp1252.sh
+#   --desktop  on the user's own display, windows framed by its window manager
+#   --keep     after COMMAND wait for Enter before ending the bed
 #
-# COMMAND finds DISPLAY (1280x1024), WINEPREFIX, LC_ALL and LOCPATH set, and further
-#   VELMORA_PREFIX_1252   a prefix in code page 1252, used by scripts/in-cp1252.sh
+# COMMAND finds DISPLAY (1280x1024), WINEPREFIX, LC_ALL and LOCPATH set.
 #
 # The bed lies in build/bed, or in the folder that VELMORA_BED names. One bed serves one command
 # at a time, a second one waits; with another VELMORA_BED both run side by side.
@@ -33,14 +34,20 @@ start_locale() {
 
 start_prefixes() {
   export WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,winemenubuilder.exe='
-  export VELMORA_PREFIX_1252=$bed/prefix32-1252
-  WINEARCH=win32 LC_ALL=C.UTF-8 "$root/scripts/prefix.sh" "$VELMORA_PREFIX_1252"
+  if [[ $cp1252 == yes ]]; then
+    export VELMORA_PREFIX_1252=$bed/prefix32-1252
+    WINEARCH=win32 LC_ALL=C.UTF-8 "$root/scripts/prefix.sh" "$VELMORA_PREFIX_1252"
+  fi
 
-  export LC_ALL=ja_JP.UTF-8
+  # This shell itself started without LOCPATH and would complain about a locale it cannot find.
+  export LC_ALL=ja_JP.UTF-8 2>/dev/null
+  export WINEARCH=win32 WINEPREFIX=$bed/prefix32
   if [[ $win64 == yes ]]; then
-    export WINEARCH=win64 WINEPREFIX=$bed/prefix64
-  else
-    export WINEARCH=win32 WINEPREFIX=$bed/prefix32
+    WINEARCH=win64 WINEPREFIX=$bed/prefix64
+  fi
+  if [[ $desktop == yes ]]; then
+    export VELMORA_MANAGED=Y
+    WINEPREFIX+=-desktop
   fi
   "$root/scripts/prefix.sh" "$WINEPREFIX"
 }
@@ -58,7 +65,7 @@ start_display() {
       echo "The virtual display did not start; see $bed/xvfb.log" >&2
       return 1
     fi
-    read -rt 0.05 <> <(:) || true
+    sleep 0.05
   done
   DISPLAY=:$(<"$number_file")
   export DISPLAY
@@ -91,45 +98,23 @@ end_bed() {
   fi
 }
 
-main() {
-  win64=no
-  local keep=no
-  if [[ ${1:-} != exec ]]; then
-    usage
-    [[ ${1:-} == --help ]] && return 0 || return 2
-  fi
-  shift
-  while [[ ${1:-} == --* ]]; do
-    case $1 in
-      --win64) win64=yes ;;
-      --keep) keep=yes ;;
-      --) shift; break ;;
-      *) usage >&2; return 2 ;;
-    esac
-    shift
-  done
-  [[ $# -gt 0 ]] || { usage >&2; return 2; }
-
-  mkdir -p "$bed"
-  exec {lock}>"$bed/lock"
-  if ! flock --nonblock "$lock"; then
-    echo "Waiting for the bed in $bed, which another command uses."
-    flock "$lock"
-  fi
-
+# Starts the bed, runs the command, leaves the end to the traps.
+serve() {
   trap end_bed EXIT
   trap 'exit 130' INT
   trap 'exit 143' TERM HUP
   start_locale
   start_prefixes
-  start_display
-  WINEARCH=win32 LC_ALL=C.UTF-8 WINEPREFIX=$VELMORA_PREFIX_1252 start_wine &
+  [[ $desktop == yes ]] || start_display
+  if [[ $cp1252 == yes ]]; then
+    WINEARCH=win32 LC_ALL=C.UTF-8 WINEPREFIX=$VELMORA_PREFIX_1252 start_wine &
+  fi
   start_wine
-  wait $!
+  [[ $cp1252 == no ]] || wait $!
 
-  # In the background, so that a signal ends the bed at once and not only after COMMAND.
+  # In the background, so that a signal ends the bed at once and not only after the command.
   local status=0
-  "$@" <&0 {lock}>&- &
+  "$@" <&0 &
   command_pid=$!
   wait "$command_pid" || status=$?
   command_pid=
@@ -139,6 +124,36 @@ main() {
     read -r || true
   fi
   return "$status"
+}
+
+main() {
+  if [[ ${1:-} != exec ]]; then
+    usage
+    [[ ${1:-} == --help ]] && return 0 || return 2
+  fi
+  shift
+  win64=no cp1252=no desktop=no keep=no
+  while [[ ${1:-} == --* ]]; do
+    case $1 in
+      --win64) win64=yes ;;
+      --cp1252) cp1252=yes ;;
+      --desktop) desktop=yes ;;
+      --keep) keep=yes ;;
+      --) shift; break ;;
+      *) usage >&2; return 2 ;;
+    esac
+    shift
+  done
+  [[ $# -gt 0 ]] || { usage >&2; return 2; }
+
+  mkdir -p "$bed"
+  exec 9>"$bed/lock"
+  if ! flock --nonblock 9; then
+    echo "Waiting for the bed in $bed, which another command uses."
+    flock 9
+  fi
+  # The lock is this script's alone: a server that outlives a killed bed must not hold it.
+  serve "$@" 9>&-
 }
 
 main "$@"

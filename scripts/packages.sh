@@ -9,8 +9,8 @@ set -euo pipefail
 readonly packages=(
   # Build: the program is 32-bit; some targets of the tests are 64-bit.
   cmake ninja-build g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix googletest
-  # Run: Wine for both kinds of program, the Japanese locale and a font to see it in.
-  wine wine32:i386 wine64 locales fonts-ipafont-gothic
+  # Run: Wine for both kinds of program, the Japanese locale and the fonts to see it in.
+  wine wine32:i386 wine64 fonts-wine locales fonts-ipafont-gothic
   # Drive and look: the virtual display, its pointer and keys, questions to it, screenshots.
   xvfb xdotool x11-utils imagemagick
   # Check: the layout of the sources.

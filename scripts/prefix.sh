@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Makes a Wine prefix for the test bed, unless it is there and made by this very recipe.
 #
-#   scripts/prefix.sh FOLDER      in the environment: WINEARCH (win32 or win64), LC_ALL, LOCPATH
+#   scripts/prefix.sh FOLDER
 #
-# The locale at this point decides the code page of the programs in the prefix.
+# In the environment: WINEARCH (win32 or win64), LC_ALL and LOCPATH, which decide the code page, and
+# VELMORA_MANAGED, Y when a window manager frames the windows (default N).
 set -euo pipefail
 
 export WINEPREFIX=${1:?"which folder?"}
@@ -12,7 +13,8 @@ export WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,winemenubuilder.exe='
 # desktop of this first server has no driver: it must end before a program with windows starts.
 unset DISPLAY
 
-recipe=$(cat "${BASH_SOURCE[0]}"; wine --version; echo "$WINEARCH $LC_ALL")
+managed=${VELMORA_MANAGED:-N}
+recipe=$(cat "${BASH_SOURCE[0]}"; wine --version; echo "$WINEARCH $LC_ALL $managed")
 readonly recipe
 readonly stamp=$WINEPREFIX/made-by
 
@@ -27,20 +29,21 @@ wine wineboot --init </dev/null >/dev/null 2>&1
 # Managed=N: captions and borders belong to their windows, which no window manager draws here.
 # ShowCrashDialog=0: a crash ends the program instead of waiting for a click.
 # Replacements: dialogs ask for fonts that only Windows has; all of them must show Japanese.
-cat >"$WINEPREFIX/settings.reg" <<'REG'
+cat >"$WINEPREFIX/settings.reg" <<REG
 REGEDIT4
 
 [HKEY_CURRENT_USER\Software\Wine\X11 Driver]
-"Managed"="N"
+"Managed"="$managed"
 
 [HKEY_CURRENT_USER\Software\Wine\WineDbg]
 "ShowCrashDialog"=dword:00000000
 
 [HKEY_CURRENT_USER\Software\Wine\Fonts\Replacements]
 "MS Gothic"="IPAGothic"
-"MS UI Gothic"="IPAGothic"
-"Yu Gothic UI"="IPAGothic"
-"Meiryo UI"="IPAGothic"
+"MS PGothic"="IPAPGothic"
+"MS UI Gothic"="IPAPGothic"
+"Yu Gothic UI"="IPAPGothic"
+"Meiryo UI"="IPAPGothic"
 REG
 wine reg import "$WINEPREFIX/settings.reg" </dev/null >/dev/null 2>&1
 wineserver -k
