@@ -8,7 +8,7 @@ target_compile_definitions(velmora_flags INTERFACE
 
 target_compile_options(velmora_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
-  -Wold-style-cast -Woverloaded-virtual -Wnull-dereference
+  -Wold-style-cast -Woverloaded-virtual
   -finput-charset=UTF-8 -ffunction-sections -fdata-sections
   $<$<CONFIG:Debug>:-fsanitize=undefined> $<$<CONFIG:Debug>:-fsanitize-undefined-trap-on-error>
   $<$<BOOL:${VELMORA_WERROR}>:-Werror>)

@@ -1,12 +1,11 @@
 #include "capture/CaptureSystem.h"
 
-#include <filesystem>
-
 #include "accessibility/AccessibleAction.h"
 #include "extract/ControlText.h"
 #include "extract/Win32API_Window.h"
 #include "platform/API_Shell.h"
 #include "platform/Clipboard.h"
+#include "platform/DiskFile.h"
 #include "platform/MessagePump.h"
 #include "settings/MyKeyboard.h"
 #include "settings/MySub_HotKey.h"
@@ -15,10 +14,9 @@ namespace capture {
 namespace {
 
 // The sound file beside the program; else the one that came with Windows.
-std::filesystem::path ChimePath(const std::wstring& file) {
-  const std::filesystem::path own = API_Shell::ProgramFolder() / file;
-  std::error_code ignored;
-  if (std::filesystem::is_regular_file(own, ignored)) return own;
+std::wstring ChimePath(const std::wstring& file) {
+  const std::wstring own = API_Shell::ProgramFolder() + L"\\" + file;
+  if (platform::IsNormalFile(own)) return own;
   return API_Shell::FolderPath(API_Shell::kWindowsFolder) + L"\\media\\" + file;
 }
 
@@ -56,10 +54,9 @@ class WindowsCaptureSystem : public CaptureSystem {
     return platform::PutTextOnClipboard(owner_, text);
   }
   void PlayChime(const std::wstring& file) override {
-    const std::filesystem::path path = ChimePath(file);
-    std::error_code ignored;
-    if (!std::filesystem::is_regular_file(path, ignored)) return;
-    API_Shell::PlaySoundFile(path.wstring(), false);
+    const std::wstring path = ChimePath(file);
+    if (!platform::IsNormalFile(path)) return;
+    API_Shell::PlaySoundFile(path, false);
     Pump();
   }
   std::wstring TooltipText() override { return extract::GetTooltipText(); }

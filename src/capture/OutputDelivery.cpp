@@ -1,8 +1,7 @@
 #include "capture/OutputDelivery.h"
 
-#include <fstream>
-
 #include "platform/API_Shell.h"
+#include "platform/DiskFile.h"
 #include "platform/ErrorReport.h"
 #include "platform/TextCodec.h"
 #include "settings/ConfigText.h"
@@ -22,11 +21,9 @@ void ReportMissingDesktop(const std::wstring& desktop) {
 }
 
 // Returns whether the whole text is on the disk.
-bool WriteWhole(const std::filesystem::path& path, const std::wstring& text) {
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  file << platform::ToAnsi(text) << "\r\n";
-  file.close();
-  return !file.fail();
+bool WriteWhole(const std::wstring& path, const std::wstring& text) {
+  platform::NewFile file(path);
+  return file.Write(platform::ToAnsi(text)) && file.Write("\r\n");
 }
 
 }  // namespace
@@ -55,13 +52,12 @@ void PutPaneText(CaptureView& view, ViewText pane, const std::wstring& text, std
     view.SetText(pane, CutText(text, {}));
     return;
   }
-  const std::filesystem::path folder = desktop();
-  std::error_code ignored;
-  if (!std::filesystem::is_directory(folder, ignored)) {
-    ReportMissingDesktop(folder.wstring());
+  const std::wstring folder = desktop();
+  if (!platform::IsDirectory(folder)) {
+    ReportMissingDesktop(folder);
     return;
   }
-  if (WriteWhole(folder / fileName, text)) view.SetText(pane, CutText(text, fileName));
+  if (WriteWhole(folder + L"\\" + std::wstring(fileName), text)) view.SetText(pane, CutText(text, fileName));
 }
 
 PaneChoice ChoosePanes(std::int32_t detail, std::int32_t dispText, bool fromDocument) {

@@ -6,6 +6,7 @@
 #include <shlobj.h>
 
 #include <array>
+#include <string_view>
 #include <vector>
 
 #include "platform/UniqueHandle.h"
@@ -20,12 +21,15 @@ std::wstring FolderPath(unsigned char folderId) {
   return path.data();
 }
 
-std::filesystem::path ProgramFolder() {
+std::wstring ProgramFolder() {
   std::vector<wchar_t> path(MAX_PATH);
   for (;;) {
     const DWORD length =
         GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
-    if (length < path.size()) return std::filesystem::path(path.data()).parent_path();
+    if (length < path.size()) {
+      const std::wstring_view program(path.data(), length);
+      return std::wstring(program.substr(0, program.rfind(L'\\')));
+    }
     path.resize(path.size() * 2);
   }
 }

@@ -1,7 +1,6 @@
 // Shell services: special folders, the program's own folder, links and sounds.
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 namespace API_Shell {
@@ -13,8 +12,8 @@ constexpr unsigned char kWindowsFolder = 36;
 // The path of a special folder, without a trailing backslash; empty when the query fails.
 std::wstring FolderPath(unsigned char folderId);
 
-// The folder that holds the program file, without a trailing backslash except on a drive root.
-std::filesystem::path ProgramFolder();
+// The folder that holds the program file, without a trailing backslash; a drive root is "C:".
+std::wstring ProgramFolder();
 
 // Starts "explorer.exe " followed by target in a normal window and does not wait. A failure is
 // not reported.

@@ -1,20 +1,13 @@
 #include "settings/ConfigFile.h"
 
-#include <fstream>
-#include <iterator>
 #include <string>
 
+#include "platform/DiskFile.h"
 #include "platform/TextCodec.h"
 #include "settings/ConfigText.h"
 
 namespace settings {
 namespace {
-
-std::wstring ReadFile(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  const std::string bytes(std::istreambuf_iterator<char>(file), {});
-  return platform::FromAnsi(bytes);
-}
 
 void ApplyToWindow(const WindowValues& values, ConfigWindow& window, Settings& record) {
   window.ApplyPlacement(values);
@@ -29,32 +22,32 @@ void ApplyToWindow(const WindowValues& values, ConfigWindow& window, Settings& r
 
 }  // namespace
 
-std::filesystem::path ConfigPath(const std::filesystem::path& folder) {
-  return folder / L"Conf.txt";
+std::wstring ConfigPath(const std::wstring& folder) {
+  return folder + L"\\Conf.txt";
 }
 
-void LoadConfig(const std::filesystem::path& path, ConfigWindow& window, Settings& record) {
+void LoadConfig(const std::wstring& path, ConfigWindow& window, Settings& record) {
   window.HoldLayout(true);
   ConfigValues values{record, {}};
   SetDefaults(window.Screen(), values);
-  ParseConfig(ReadFile(path), values);
+  ParseConfig(platform::FromAnsi(platform::ReadWholeFile(path)), values);
   record = values.record;
   ApplyToWindow(values.window, window, record);
   window.HoldLayout(false);
   window.RunLayout();
 }
 
-void WriteConfig(std::ostream& out, const ConfigValues& values) {
+void WriteConfig(const ByteSink& sink, const ConfigValues& values) {
   for (const std::wstring& line : ConfigLines(values)) {
-    if (!(out << platform::ToAnsi(line)).flush()) return;
+    if (!sink(platform::ToAnsi(line))) return;
   }
 }
 
-void SaveConfig(const std::filesystem::path& path, const ConfigWindow& window,
+void SaveConfig(const std::wstring& path, const ConfigWindow& window,
                 const Settings& record) {
   const WindowValues values = window.CurrentValues();
-  std::ofstream file(path, std::ios::binary | std::ios::trunc);
-  WriteConfig(file, {record, values});
+  platform::NewFile file(path);
+  WriteConfig([&file](std::string_view bytes) { return file.Write(bytes); }, {record, values});
 }
 
 }  // namespace settings

@@ -1,8 +1,9 @@
 // Conf.txt beside the program: read once when the program starts, written once when it ends.
 #pragma once
 
-#include <filesystem>
-#include <ostream>
+#include <functional>
+#include <string>
+#include <string_view>
 
 #include "settings/ConfigKeys.h"
 
@@ -34,18 +35,21 @@ class ConfigWindow {
 };
 
 // folder + "\" + "Conf.txt".
-std::filesystem::path ConfigPath(const std::filesystem::path& folder);
+std::wstring ConfigPath(const std::wstring& folder);
 
 // Sets the defaults in record, reads the file at path if there is one, and applies to window what
 // belongs to it. A file that cannot be opened counts as no file. Reports nothing.
-void LoadConfig(const std::filesystem::path& path, ConfigWindow& window, Settings& record);
+void LoadConfig(const std::wstring& path, ConfigWindow& window, Settings& record);
 
 // Writes all values to the file at path, replacing it. An error ends the writing silently; the
 // lines written so far stay.
-void SaveConfig(const std::filesystem::path& path, const ConfigWindow& window,
+void SaveConfig(const std::wstring& path, const ConfigWindow& window,
                 const Settings& record);
 
-// Writes the lines of values to out in the system's ANSI code page, until out fails.
-void WriteConfig(std::ostream& out, const ConfigValues& values);
+// Takes bytes; returns whether they were written.
+using ByteSink = std::function<bool(std::string_view bytes)>;
+
+// Writes the lines of values to sink in the system's ANSI code page, until it fails.
+void WriteConfig(const ByteSink& sink, const ConfigValues& values);
 
 }  // namespace settings

@@ -1,7 +1,6 @@
 // The main window: what its messages do.
 #pragma once
 
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -19,7 +18,7 @@
 namespace ui {
 
 struct MainWindowPlan {
-  std::filesystem::path folder;  // where Conf.txt and the help page are
+  std::wstring folder;       // where Conf.txt and the help page are
   std::wstring commandLine;      // what follows the program's name
   std::function<void()> endProgram;
 };
