@@ -37,7 +37,8 @@ constexpr NamedControl kBoxes[] = {
 };
 
 // Of each pair of panes one is shown: the one that wraps or the one that scrolls sideways.
-constexpr NamedControl kTopPanes[] = {{"top pane", ui::txtWinTextT0}, {"top pane", ui::txtWinTextT1}};
+constexpr NamedControl kTopPanes[] = {{"top pane", ui::txtWinTextT0},
+                                      {"top pane", ui::txtWinTextT1}};
 constexpr NamedControl kBottomPanes[] = {{"bottom pane", ui::txtWinTextB0},
                                          {"bottom pane", ui::txtWinTextB1}};
 
@@ -69,9 +70,8 @@ std::wstring ReadText(HWND control) {
   }
   std::wstring text(length + 1, L'\0');
   DWORD_PTR copied = 0;
-  if (SendMessageTimeoutW(control, WM_GETTEXT, text.size(),
-                          reinterpret_cast<LPARAM>(text.data()), SMTO_ABORTIFHUNG, kAnswerMs,
-                          &copied) == 0) {
+  if (SendMessageTimeoutW(control, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
+                          SMTO_ABORTIFHUNG, kAnswerMs, &copied) == 0) {
     return {};
   }
   text.resize(copied);

@@ -1,0 +1,6 @@
+#!/usr/bin/env bash
+# Lays out every source as .clang-format says.
+set -euo pipefail
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+find src tests tools \( -name '*.h' -o -name '*.cpp' \) -print0 | xargs -0 clang-format -i
