@@ -1,0 +1,3 @@
+#include "ui/Two.h"
+
+#include "ui/One.h"
