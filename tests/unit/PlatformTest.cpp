@@ -1,0 +1,163 @@
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <oleacc.h>
+#include <wrl/client.h>
+
+#include <string>
+
+#include "platform/API_Shell.h"
+#include "platform/ComOwners.h"
+#include "platform/ErrorReport.h"
+#include "platform/TextCodec.h"
+#include "platform/UniqueHandle.h"
+
+namespace platform {
+namespace {
+
+// Texts that every code page holds, in any length around the size of a piece.
+TEST(CodePageTest, PlainTextsGoThereAndBack) {
+  for (const std::size_t length : {0U, 1U, 1000U, (1U << 20) - 1, 1U << 20, (1U << 20) + 1}) {
+    std::wstring text;
+    for (std::size_t i = 0; i < length; ++i) text += static_cast<wchar_t>(L' ' + i % 95);
+    const std::string bytes = ToAnsi(text);
+    EXPECT_EQ(bytes.size(), length);
+    EXPECT_EQ(FromAnsi(bytes), text);
+  }
+}
+
+TEST(CodePageTest, WhatThePageCannotHoldBecomesAReplacement) {
+  const std::string bytes = ToAnsi(L"a\u0E01b");  // a Thai letter
+  EXPECT_EQ(bytes, "a?b");
+}
+
+TEST(CodePageTest, EmbeddedZeroCharactersStay) {
+  const std::wstring text(L"a\0b", 3);
+  EXPECT_EQ(ToAnsi(text), std::string("a\0b", 3));
+  EXPECT_EQ(FromAnsi(std::string("a\0b", 3)), text);
+}
+
+TEST(TextCodecTest, JapaneseTakesTwoBytesACharacter) {
+  if (GetACP() != 932) GTEST_SKIP() << "holds in code page 932";
+  EXPECT_EQ(ToAnsi(L"あア漢ｱ"), "\x82\xA0\x83\x41\x8A\xBF\xB1");
+  EXPECT_EQ(FromAnsi("\x82\xA0\x83\x41\x8A\xBF\xB1"), L"あア漢ｱ");
+}
+
+TEST(TextCodecTest, NoCharacterIsTornWhereALongTextIsCutIntoPieces) {
+  if (GetACP() != 932) GTEST_SKIP() << "holds in code page 932";
+  for (const std::size_t shift : {0U, 1U}) {
+    std::wstring text(shift, L'x');
+    text.append((1U << 20) + 3, L'表');
+    const std::string bytes = ToAnsi(text);
+    EXPECT_EQ(bytes.size(), shift + 2 * ((1U << 20) + 3));
+    EXPECT_EQ(FromAnsi(bytes), text);
+  }
+}
+
+class ErrorReportTest : public testing::Test {
+ protected:
+  ErrorReportTest()
+      : before_(SetMessageBox([this](const std::wstring& text, const std::wstring& title) {
+          boxes_.emplace_back(title, text);
+          if (boxes_.size() == 1) ReportError(L"Second", {7, L"while the first is open"});
+        })) {}
+  ~ErrorReportTest() override { SetMessageBox(before_); }
+
+  std::vector<std::pair<std::wstring, std::wstring>> boxes_;
+  MessageBoxFunction before_;
+};
+
+TEST_F(ErrorReportTest, ShowsNumberAndDescriptionUnderTheProcedure) {
+  ReportError(L"GetTextCountInfo", {5, L"引数が不正です"});
+  ASSERT_EQ(boxes_.size(), 1U);  // never a second while one is open
+  EXPECT_EQ(boxes_[0].first, L"GetTextCountInfo");
+  EXPECT_EQ(boxes_[0].second, L"5 引数が不正です");
+
+  EXPECT_TRUE(ShowMessage(L"later", L"again"));
+  EXPECT_EQ(boxes_.size(), 2U);
+}
+
+TEST_F(ErrorReportTest, ABoxThatFailsDoesNotBlockTheNext) {
+  SetMessageBox([](const std::wstring&, const std::wstring&) { throw 1; });
+  EXPECT_THROW(ShowMessage(L"a", L"b"), int);
+  int shown = 0;
+  SetMessageBox([&shown](const std::wstring&, const std::wstring&) { ++shown; });
+  EXPECT_TRUE(ShowMessage(L"a", L"b"));
+  EXPECT_EQ(shown, 1);
+}
+
+struct CountingCloser {
+  using Handle = int;
+  static void Close(int) noexcept { ++closed; }
+  static inline int closed = 0;
+};
+
+TEST(UniqueHandleTest, ClosesOnceAndNeverNothing) {
+  CountingCloser::closed = 0;
+  {
+    UniqueHandle<CountingCloser> none;
+    UniqueHandle<CountingCloser> first(1);
+    UniqueHandle<CountingCloser> second(std::move(first));
+    EXPECT_FALSE(first);
+    EXPECT_EQ(second.Get(), 1);
+    second = UniqueHandle<CountingCloser>(2);
+    EXPECT_EQ(CountingCloser::closed, 1);
+  }
+  EXPECT_EQ(CountingCloser::closed, 2);
+}
+
+// Counts its references only.
+class Counted : public IUnknown {
+ public:
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void** object) override {
+    *object = nullptr;
+    return E_NOINTERFACE;
+  }
+  ULONG STDMETHODCALLTYPE AddRef() override { return ++count; }
+  ULONG STDMETHODCALLTYPE Release() override { return --count; }
+  ULONG count = 1;
+};
+
+TEST(ComPtrTest, ReceivingAnObjectCountsItOnce) {
+  Counted object;
+  {
+    Microsoft::WRL::ComPtr<IUnknown> owner;
+    *owner.GetAddressOf() = &object;  // as a call hands out its result
+    EXPECT_EQ(object.count, 1U);
+    const Microsoft::WRL::ComPtr<IUnknown> second = owner;
+    EXPECT_EQ(object.count, 2U);
+  }
+  EXPECT_EQ(object.count, 0U);
+}
+
+TEST(ComOwnersTest, HoldTextsAndNumbers) {
+  UniqueBstr text;
+  EXPECT_EQ(text.Text(), L"");
+  *text.Receive() = SysAllocStringLen(L"a\0b", 3);
+  EXPECT_EQ(text.Text(), std::wstring(L"a\0b", 3));
+  EXPECT_EQ(UniqueVariant(7).Get().lVal, 7);
+  EXPECT_EQ(UniqueVariant().Get().vt, VT_EMPTY);
+}
+
+TEST(ShellTest, FindsSpecialFolders) {
+  EXPECT_EQ(API_Shell::FolderPath(API_Shell::kWindowsFolder), L"C:\\windows");
+  const std::wstring desktop = API_Shell::FolderPath(API_Shell::kDesktopFolder);
+  EXPECT_NE(desktop, L"");
+  EXPECT_FALSE(desktop.ends_with(L'\\'));
+  EXPECT_EQ(API_Shell::FolderPath(0x3F), L"");
+}
+
+TEST(ShellTest, PlaysToTheEndOrOverAndOver) {
+  EXPECT_EQ(API_Shell::SoundFlags(false), 0U);
+  EXPECT_EQ(API_Shell::SoundFlags(true), 8U);
+}
+
+TEST(ShellTest, KnowsItsOwnFolder) {
+  const std::wstring folder = API_Shell::ProgramFolder();
+  EXPECT_FALSE(folder.ends_with(L'\\'));
+  EXPECT_NE(GetFileAttributesW((folder + L"\\unit_tests.exe").c_str()), INVALID_FILE_ATTRIBUTES);
+}
+
+}  // namespace
+}  // namespace platform

@@ -1,0 +1,81 @@
+#include "capture/WindowInformation.h"
+
+#include <gtest/gtest.h>
+
+#include "FakeCapture.h"
+
+namespace capture {
+namespace {
+
+WindowFacts Facts(int number, const std::wstring& className, const std::wstring& title,
+                  const RECT& place) {
+  return {WindowNumber(number), className, title, place};
+}
+
+TEST(WindowInformationTextTest, TellsEverythingAboutAWindow) {
+  WindowInformation information;
+  information.window = Facts(1312948, L"Edit", L"題名", {10, 20, 310, 220});
+  information.owner = Facts(4660, L"Shell", L"", {0, 0, 1, 1});
+  information.ancestors = {Facts(300, L"Panel", L"", {5, 6, 7, 8}),
+                           Facts(200, L"Frame", L"外側", {-1, -2, 3, 4})};
+  information.children = {Facts(65640, L"Button", L"OK", {1, 2, 3, 4}),
+                          Facts(123456789, std::wstring(30, L'c'), L"", {0, 0, 0, 0})};
+  EXPECT_EQ(WindowInformationText(information, L"dec"),
+            L"ウィンドウ情報\r\n"
+            L"--------------------------------------\r\n"
+            L"ハンドル　　　：1312948(x1408B4)\r\n"
+            L"クラス名　　　：Edit\r\n"
+            L"タイトル　　　：題名\r\n"
+            L"位置(左上右下)：(10,20,310,220)\r\n"
+            L"\r\n"
+            L"オーナー　　  ：\r\n"
+            L" 4660(x1234) Shell \"\"\r\n"
+            L"\r\n"
+            L"親ウィンドウ  ： top → bottom\r\n"
+            L" hWnd\tClassName\t(Location)\t\tTitle \r\n"
+            L" -----------------------------------------------------------------------\r\n"
+            L" 200\tFrame\t(-1,-2,3,4)\t \"外側\"\r\n"
+            L" 300\tPanel\t(5,6,7,8)\t\r\n"
+            L"\r\n"
+            L"子ウィンドウ\r\n"
+            L"\r\n"
+            L"ハンドル クラス名               位置(左,上,右,下)    表示文字\r\n"
+            L"-------------------------------------------------------------\r\n"
+            L"   65640 Button                    (1,2,3,4) OK \r\n"
+            L"123456789 cccccccccccccccccccccccccccccc (0,0,0,0)  \r\n");
+}
+
+TEST(WindowInformationTextTest, HexChangesTheChildrenOnly) {
+  WindowInformation information;
+  information.window = Facts(255, L"A", L"", {});
+  information.ancestors = {Facts(254, L"B", L"", {})};
+  information.children = {Facts(253, L"C", L"x", {})};
+  const std::wstring text = WindowInformationText(information, L"hex");
+  EXPECT_NE(text.find(L"ハンドル　　　：255(xFF)\r\n"), text.npos);
+  EXPECT_NE(text.find(L" 254\tB\t"), text.npos);
+  EXPECT_NE(text.find(L"     xFD C                         (0,0,0,0) x \r\n"), text.npos);
+}
+
+TEST(WindowInformationTextTest, ATopLevelWindowHasNeitherOwnerNorAncestors) {
+  WindowInformation information;
+  information.window = Facts(1, L"A", L"", {});
+  const std::wstring text = WindowInformationText(information, L"dec");
+  EXPECT_NE(text.find(L"オーナー　　  ：\r\n\r\n親ウィンドウ"), text.npos);
+  EXPECT_NE(text.find(std::wstring(71, L'-') + L"\r\n\r\n子ウィンドウ"), text.npos);
+  EXPECT_TRUE(text.ends_with(std::wstring(61, L'-') + L"\r\n"));
+}
+
+TEST(ReadWindowInformationTest, AWindowThatIsGoneHasEmptyFacts) {
+  for (const HWND gone : {static_cast<HWND>(nullptr), WindowNumber(0x7FFF0001)}) {
+    const WindowInformation information = ReadWindowInformation(gone);
+    EXPECT_EQ(information.window.className, L"");
+    EXPECT_EQ(information.window.title, L"");
+    EXPECT_EQ(information.window.place.right, 0);
+    EXPECT_EQ(information.owner.hwnd, nullptr);
+    EXPECT_TRUE(information.ancestors.empty());
+    EXPECT_TRUE(information.children.empty());
+  }
+}
+
+}  // namespace
+}  // namespace capture
