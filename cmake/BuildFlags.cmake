@@ -7,7 +7,7 @@ target_compile_definitions(velmora_flags INTERFACE
   $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 
 target_compile_options(velmora_flags INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
   -Wold-style-cast -Woverloaded-virtual
   -finput-charset=UTF-8 -ffunction-sections -fdata-sections
   $<$<CONFIG:Debug>:-fsanitize=undefined> $<$<CONFIG:Debug>:-fsanitize-undefined-trap-on-error>
