@@ -4,6 +4,8 @@
 #
 #   include-order.sh SOURCES FLOORS      the folder src/ and the table of its floors
 set -euo pipefail
+# The messages of the tools are read here.
+export LC_ALL=C
 
 sources=$(realpath "$1")
 floors=$(realpath "$2")

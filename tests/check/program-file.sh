@@ -3,6 +3,8 @@
 #
 #   program-file.sh PROGRAM OBJDUMP
 set -euo pipefail
+# The messages of the tools are read here.
+export LC_ALL=C
 
 readonly program=$1 objdump=$2
 readonly largest=$((3 * 512 * 1024))
