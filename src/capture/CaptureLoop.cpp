@@ -112,8 +112,8 @@ void CaptureLoop::UpdateMarkers(Locals& locals) {
 
 void CaptureLoop::TrackRest(Locals& locals) {
   CaptureState& state = context_.state;
-  state.ReportState = locals.rest.Observe(state.CapturePoint, locals.nowTick,
-                                          state.LastReportTick, state.ReportState);
+  state.ReportState = locals.rest.Observe(state.CapturePoint, locals.nowTick, state.LastReportTick,
+                                          state.ReportState);
   if (state.RefreshRequest == 1) {
     state.ReportState = kDue;
     state.RefreshRequest = 0;
@@ -128,9 +128,9 @@ bool CaptureLoop::TargetIsOwnWindow() {
 }
 
 void CaptureLoop::ClearReport() {
-  for (const ViewText part : {ViewText::txthWnd, ViewText::txtWin0, ViewText::txtWin1,
-                              ViewText::txtWin2, ViewText::txtCount, ViewText::TopPane,
-                              ViewText::BottomPane}) {
+  for (const ViewText part :
+       {ViewText::txthWnd, ViewText::txtWin0, ViewText::txtWin1, ViewText::txtWin2,
+        ViewText::txtCount, ViewText::TopPane, ViewText::BottomPane}) {
     Attempt([&] { context_.view.SetText(part, {}); });
   }
 }
@@ -176,8 +176,7 @@ void CaptureLoop::CountDown(const Locals& locals) {
     case CountdownStep::Keep:
       break;
     case CountdownStep::Show:
-      Attempt(
-          [&] { view.SetText(ViewText::lblAutoStop, std::to_wstring(countdown.remaining)); });
+      Attempt([&] { view.SetText(ViewText::lblAutoStop, std::to_wstring(countdown.remaining)); });
       break;
     case CountdownStep::Stop:
       StopByItself();

@@ -23,15 +23,15 @@ struct CaptureState {
   bool CaptureRunning = false;  // the loop shall go on; anyone may clear it
   std::wstring RunState;        // empty, "Go", or "Unload" when the program is to end
   bool DebugMode = false;
-  POINT CapturePoint{};            // the point that is read, in screen pixels
-  HWND TargetWindow = nullptr;     // the window at CapturePoint; null when no capture runs
-  std::wstring ActionKeyCode;      // virtual-key code, in decimal
-  std::wstring VersionText;        // for the caption
+  POINT CapturePoint{};         // the point that is read, in screen pixels
+  HWND TargetWindow = nullptr;  // the window at CapturePoint; null when no capture runs
+  std::wstring ActionKeyCode;   // virtual-key code, in decimal
+  std::wstring VersionText;     // for the caption
   std::int32_t TwipsPerPixelX = 0;
   std::int32_t TwipsPerPixelY = 0;
 
   std::int32_t ReportState = kMoved;
-  std::int32_t RefreshRequest = 0;  // 1 makes the next pass report anew
+  std::int32_t RefreshRequest = 0;     // 1 makes the next pass report anew
   std::uint32_t CaptureStartTick = 0;  // milliseconds, as GetTickCount counts
   std::uint32_t LastReportTick = 0;
 

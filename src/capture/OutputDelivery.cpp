@@ -57,7 +57,8 @@ void PutPaneText(CaptureView& view, ViewText pane, const std::wstring& text, std
     ReportMissingDesktop(folder);
     return;
   }
-  if (WriteWhole(folder + L"\\" + std::wstring(fileName), text)) view.SetText(pane, CutText(text, fileName));
+  if (WriteWhole(folder + L"\\" + std::wstring(fileName), text))
+    view.SetText(pane, CutText(text, fileName));
 }
 
 PaneChoice ChoosePanes(std::int32_t detail, std::int32_t dispText, bool fromDocument) {

@@ -39,9 +39,7 @@ void ComposeReport(const CaptureContext& context) {
   Attempt([&] { text = Win32API_Window::WindowTextByMessage(target); });
   Attempt([&] { view.SetText(ViewText::txtWin3, text); });
   state.TopTexts[2] = extract::WithCrLf(text, kLineMark);
-  Attempt([&] {
-    state.BottomTexts[1] = WindowInformationText(information, settings.winHandle);
-  });
+  Attempt([&] { state.BottomTexts[1] = WindowInformationText(information, settings.winHandle); });
   Attempt([&] { view.SetText(ViewText::txtWin1, {}); });
   Attempt([&] { view.SetText(ViewText::txtWin2, information.window.title); });
   Attempt([&] { RedisplayPanes(state, settings, view); });

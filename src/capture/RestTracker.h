@@ -8,8 +8,8 @@
 
 namespace capture {
 
-constexpr std::uint32_t kRestMs = 50;         // rest that makes a report due
-constexpr std::uint32_t kRepeatMs = 30'000;   // a resting point is reported anew after this
+constexpr std::uint32_t kRestMs = 50;        // rest that makes a report due
+constexpr std::uint32_t kRepeatMs = 30'000;  // a resting point is reported anew after this
 
 class RestTracker {
  public:

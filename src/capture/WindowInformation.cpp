@@ -17,9 +17,7 @@ std::wstring PlaceText(const RECT& place) {
          std::to_wstring(place.right) + L"," + std::to_wstring(place.bottom) + L")";
 }
 
-std::wstring BothHandles(HWND hwnd) {
-  return DecimalHandle(hwnd) + L"(x" + HexHandle(hwnd) + L")";
-}
+std::wstring BothHandles(HWND hwnd) { return DecimalHandle(hwnd) + L"(x" + HexHandle(hwnd) + L")"; }
 
 std::wstring OwnerLine(const WindowFacts& owner) {
   return L" " + BothHandles(owner.hwnd) + L" " + owner.className + L" \"" + owner.title + L"\"";
@@ -52,8 +50,8 @@ BOOL CALLBACK AddIfVisible(HWND hwnd, LPARAM context) noexcept {
 }  // namespace
 
 WindowFacts ReadWindowFacts(HWND hwnd) {
-  WindowFacts facts{hwnd, Win32API_Window::MyGetClassName(hwnd),
-                    Win32API_Window::MyGetWindowText(hwnd), {}};
+  WindowFacts facts{
+      hwnd, Win32API_Window::MyGetClassName(hwnd), Win32API_Window::MyGetWindowText(hwnd), {}};
   GetWindowRect(hwnd, &facts.place);
   return facts;
 }

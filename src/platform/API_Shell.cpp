@@ -24,8 +24,7 @@ std::wstring FolderPath(unsigned char folderId) {
 std::wstring ProgramFolder() {
   std::vector<wchar_t> path(MAX_PATH);
   for (;;) {
-    const DWORD length =
-        GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+    const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
     if (length < path.size()) {
       const std::wstring_view program(path.data(), length);
       return std::wstring(program.substr(0, program.rfind(L'\\')));

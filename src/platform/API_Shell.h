@@ -22,7 +22,8 @@ void OpenWithExplorer(const std::wstring& target);
 // The sound call's flags: SND_SYNC (0), or SND_LOOP (8) when repeat is set.
 unsigned SoundFlags(bool repeat);
 
-// Plays a wave file with these flags, so without repeat to its end before returning. Returns false when the file could not be played.
+// Plays a wave file with these flags, so without repeat to its end before returning. Returns false
+// when the file could not be played.
 bool PlaySoundFile(const std::wstring& path, bool repeat);
 
 }  // namespace API_Shell

@@ -41,8 +41,7 @@ std::string ReadWholeFile(const std::wstring& path) {
   return bytes;
 }
 
-NewFile::NewFile(const std::wstring& path)
-    : handle_(Open(path, GENERIC_WRITE, CREATE_ALWAYS)) {}
+NewFile::NewFile(const std::wstring& path) : handle_(Open(path, GENERIC_WRITE, CREATE_ALWAYS)) {}
 
 bool NewFile::Write(std::string_view bytes) {
   while (handle_ && !bytes.empty()) {

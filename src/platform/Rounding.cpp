@@ -7,8 +7,7 @@ namespace platform {
 
 std::int32_t ClampToInt32(std::int64_t value) noexcept {
   using Limits = std::numeric_limits<std::int32_t>;
-  return static_cast<std::int32_t>(
-      std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
+  return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
 }
 
 std::int32_t RoundedRatio(std::int64_t numerator, std::int64_t denominator) noexcept {

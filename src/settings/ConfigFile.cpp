@@ -22,9 +22,7 @@ void ApplyToWindow(const WindowValues& values, ConfigWindow& window, Settings& r
 
 }  // namespace
 
-std::wstring ConfigPath(const std::wstring& folder) {
-  return folder + L"\\Conf.txt";
-}
+std::wstring ConfigPath(const std::wstring& folder) { return folder + L"\\Conf.txt"; }
 
 void LoadConfig(const std::wstring& path, ConfigWindow& window, Settings& record) {
   window.HoldLayout(true);
@@ -43,8 +41,7 @@ void WriteConfig(const ByteSink& sink, const ConfigValues& values) {
   }
 }
 
-void SaveConfig(const std::wstring& path, const ConfigWindow& window,
-                const Settings& record) {
+void SaveConfig(const std::wstring& path, const ConfigWindow& window, const Settings& record) {
   const WindowValues values = window.CurrentValues();
   platform::NewFile file(path);
   WriteConfig([&file](std::string_view bytes) { return file.Write(bytes); }, {record, values});

@@ -43,8 +43,7 @@ void LoadConfig(const std::wstring& path, ConfigWindow& window, Settings& record
 
 // Writes all values to the file at path, replacing it. An error ends the writing silently; the
 // lines written so far stay.
-void SaveConfig(const std::wstring& path, const ConfigWindow& window,
-                const Settings& record);
+void SaveConfig(const std::wstring& path, const ConfigWindow& window, const Settings& record);
 
 // Takes bytes; returns whether they were written.
 using ByteSink = std::function<bool(std::string_view bytes)>;

@@ -27,8 +27,8 @@ struct ScreenTwips {
   std::int32_t TwipsPerPixelY = 0;
 };
 
-using ConfigField = std::variant<std::int32_t Settings::*, std::wstring Settings::*,
-                                 std::int32_t WindowValues::*>;
+using ConfigField =
+    std::variant<std::int32_t Settings::*, std::wstring Settings::*, std::int32_t WindowValues::*>;
 
 // No default (monostate): the value stays as the record was.
 using ConfigDefault = std::variant<std::monostate, std::int32_t, std::wstring_view,

@@ -23,9 +23,9 @@ std::wstring LowerCase(std::wstring_view text) {
 
 void StoreText(const ConfigField& field, std::wstring_view text, ConfigValues& values) {
   if (const auto* const textField = std::get_if<std::wstring Settings::*>(&field)) {
-    values.record.**textField = text;
+    values.record.** textField = text;
   } else if (const auto* const number = std::get_if<std::int32_t Settings::*>(&field)) {
-    values.record.**number = LeadingNumber(text);
+    values.record.** number = LeadingNumber(text);
   } else {
     values.window.*std::get<std::int32_t WindowValues::*>(field) = LeadingNumber(text);
   }
@@ -33,7 +33,7 @@ void StoreText(const ConfigField& field, std::wstring_view text, ConfigValues& v
 
 void StoreNumber(const ConfigField& field, std::int32_t number, ConfigValues& values) {
   if (const auto* const inRecord = std::get_if<std::int32_t Settings::*>(&field)) {
-    values.record.**inRecord = number;
+    values.record.** inRecord = number;
   } else {
     values.window.*std::get<std::int32_t WindowValues::*>(field) = number;
   }

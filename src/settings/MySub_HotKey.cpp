@@ -7,12 +7,14 @@
 namespace MySub_HotKey {
 
 const std::array<std::wstring_view, kHotKeyCount> HotKeyNames{
-    L"",          L"PAUSE/BREAK", L"ESC",       L"F1",        L"F2",
-    L"F3",        L"F4",          L"F5",        L"F6",        L"F7",
-    L"F8",        L"F9",          L"F10",       L"F11",       L"F12",
-    L"Shift+PAUSE/BREAK",         L"Shift+ESC", L"Shift+F1",  L"Shift+F2",
-    L"Shift+F3",  L"Shift+F4",    L"Shift+F5",  L"Shift+F6",  L"Shift+F7",
-    L"Shift+F8",  L"Shift+F9",    L"Shift+F10", L"Shift+F11", L"Shift+F12",
+    L"",          L"PAUSE/BREAK", L"ESC",       L"F1",
+    L"F2",        L"F3",          L"F4",        L"F5",
+    L"F6",        L"F7",          L"F8",        L"F9",
+    L"F10",       L"F11",         L"F12",       L"Shift+PAUSE/BREAK",
+    L"Shift+ESC", L"Shift+F1",    L"Shift+F2",  L"Shift+F3",
+    L"Shift+F4",  L"Shift+F5",    L"Shift+F6",  L"Shift+F7",
+    L"Shift+F8",  L"Shift+F9",    L"Shift+F10", L"Shift+F11",
+    L"Shift+F12",
 };
 
 const std::array<std::int32_t, kHotKeyCount> HotKeyCodes{

@@ -30,14 +30,14 @@ struct Settings {
   std::wstring chimeFile;
   std::int32_t detail = 0;
   std::int32_t shift = 0;
-  std::int32_t shiftx = 0;  // pixels
-  std::int32_t shifty = 0;  // pixels
+  std::int32_t shiftx = 0;           // pixels
+  std::int32_t shifty = 0;           // pixels
   std::int32_t continueCapture = 0;  // key "continue"
   std::int32_t parentChildren = 0;
   std::int32_t parentChildrenMax = 0;
   std::int32_t accnameMax = 0;  // characters
   std::int32_t fromHwnd = 0;
-  std::int32_t actionTest = 0;  // 0 none, 1 default action, 2 and 3 the two selections
+  std::int32_t actionTest = 0;         // 0 none, 1 default action, 2 and 3 the two selections
   std::int32_t htmlTagTextLength = 0;  // characters
   std::wstring accValueText;           // comma-separated class names
   std::int32_t settingNo = 0;

@@ -1,5 +1,7 @@
 #include "ui/Controls.h"
 
+#include <string_view>
+
 namespace ui {
 namespace {
 
@@ -29,7 +31,7 @@ void RegisterFrameClass() {
   RegisterClassExW(&frame);
 }
 
-bool IsFrame(const ControlRow& row) { return row.className == kFrameClass; }
+bool IsFrame(const ControlRow& row) { return std::wstring_view(row.className) == kFrameClass; }
 
 platform::UniqueFont MessageFont(UINT dpi) {
   NONCLIENTMETRICSW metrics{};
@@ -46,10 +48,10 @@ void ControlSet::Create(HWND window, std::span<const ControlRow> rows) {
   for (const ControlRow& row : rows) {
     const HWND parent = row.parent == 0 ? window : windows_.at(row.parent);
     const DWORD exStyle = IsFrame(row) ? WS_EX_CONTROLPARENT : 0;
-    windows_[row.id] = CreateWindowExW(
-        exStyle, row.className, row.caption, row.style | WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 0, 0,
-        parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)), GetModuleHandleW(nullptr),
-        nullptr);
+    windows_[row.id] =
+        CreateWindowExW(exStyle, row.className, row.caption, row.style | WS_CHILD | WS_CLIPSIBLINGS,
+                        0, 0, 0, 0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)),
+                        GetModuleHandleW(nullptr), nullptr);
   }
 }
 
@@ -83,9 +85,7 @@ std::wstring WindowText(HWND hwnd) {
   return text;
 }
 
-int BoxValue(HWND box) {
-  return SendMessageW(box, BM_GETCHECK, 0, 0) == BST_CHECKED ? 1 : 0;
-}
+int BoxValue(HWND box) { return SendMessageW(box, BM_GETCHECK, 0, 0) == BST_CHECKED ? 1 : 0; }
 
 void SetBox(HWND box, int value) {
   SendMessageW(box, BM_SETCHECK, value != 0 ? BST_CHECKED : BST_UNCHECKED, 0);

@@ -35,7 +35,7 @@ constexpr ControlRow kRows[] = {
     {txtWin0, 0, kEdit, kBox, L"", {1380, 0, 1800, 255}},
     {chkAutoStop, 0, kButtonClass, kCheckBox, L"自動停止", {4500, 0, 1140, 240}},
     {chkTurnBack, 0, kButtonClass, kCheckBox, L"折り返し", {4500, 240, 1140, 240}},
-    {lblStatus, 0, kStatic, kLabel, L"", {1140, 270, 2250, 480}},
+    {lblStatus, 0, kStatic, kLabel | SS_LEFTNOWORDWRAP, L"", {1140, 270, 2250, 480}},
     {fr_Mous, 0, kFrameClass, kShown, L"", {3450, 480, 2190, 270}},
     {lblMousePos, fr_Mous, kStatic, kLabel | SS_RIGHT, L"", {0, 15, 990, 240}},
     {txthWnd, fr_Mous, kEdit, kBox, L"", {1050, 0, 1125, 255}},

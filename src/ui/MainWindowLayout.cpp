@@ -5,7 +5,7 @@ namespace {
 
 constexpr std::int32_t kPaneLeft = 30;
 constexpr std::int32_t kStatusLeft = 60;
-constexpr std::int32_t kTopPaneSlack = 120;      // how far the top pane may reach below the window
+constexpr std::int32_t kTopPaneSlack = 120;  // how far the top pane may reach below the window
 constexpr std::int32_t kRoomBelowTopPane = 1500;
 constexpr std::int32_t kSplitterLimit = 1400;
 
@@ -28,8 +28,7 @@ void FlushRight(TwipsRect& rect, std::int32_t SW) { rect.left = SW - rect.width;
 
 }  // namespace
 
-MainWindowGeometry Layout(MainWindowGeometry g, const LayoutSizes& sizes,
-                          std::int32_t& topHeight) {
+MainWindowGeometry Layout(MainWindowGeometry g, const LayoutSizes& sizes, std::int32_t& topHeight) {
   const auto& [SW, SH, scale] = sizes;
 
   FlushRight(g.chkAutoStop, SW);

@@ -136,7 +136,8 @@ TEST_F(CaptureLoopTest, OtherwiseTheEndTimerStaysOff) {
 // Debug mode.
 
 TEST_F(CaptureLoopTest, FirstWordOfTheCommandLineTurnsDebugModeOnAtEveryStart) {
-  CaptureLoop debugLoop(fake_.Context(), [] {}, L"DEBUG no_start");
+  CaptureLoop debugLoop(
+      fake_.Context(), [] {}, L"DEBUG no_start");
   fake_.system.onSleep = [this] { fake_.state.CaptureRunning = false; };
   debugLoop.RunCapture();
   EXPECT_TRUE(fake_.state.DebugMode);
@@ -285,9 +286,9 @@ class OwnWindowTest : public CaptureLoopTest {
     EXPECT_EQ(fake_.state.LastReportTick, 100'000U);
   }
 
-  static constexpr ViewText kCleared[] = {ViewText::txthWnd, ViewText::txtWin0, ViewText::txtWin1,
-                                          ViewText::txtWin2, ViewText::txtCount,
-                                          ViewText::TopPane, ViewText::BottomPane};
+  static constexpr ViewText kCleared[] = {
+      ViewText::txthWnd,  ViewText::txtWin0, ViewText::txtWin1,   ViewText::txtWin2,
+      ViewText::txtCount, ViewText::TopPane, ViewText::BottomPane};
 };
 
 TEST_F(OwnWindowTest, IsNotReportedOn) {

@@ -42,26 +42,22 @@ TEST_P(LeadingNumberTest, ReadsWhatTheTextBeginsWith) {
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, LeadingNumberTest,
-    testing::Values(NumberCase{L"", 0}, NumberCase{L"0", 0}, NumberCase{L"7", 7},
-                    NumberCase{L"12abc", 12}, NumberCase{L"abc", 0}, NumberCase{L"a1", 0},
-                    NumberCase{L"12.5", 12}, NumberCase{L"13.5", 14}, NumberCase{L"12.50", 12},
-                    NumberCase{L"12.5000001", 13}, NumberCase{L"12.49999", 12},
-                    NumberCase{L"-5", -5}, NumberCase{L"+5", 5}, NumberCase{L"-12.5", -12},
-                    NumberCase{L"-13.5", -14}, NumberCase{L"-0.5", 0}, NumberCase{L"-0.6", -1},
-                    NumberCase{L".7", 1}, NumberCase{L".5", 0}, NumberCase{L"1.5", 2},
-                    NumberCase{L"3.", 3}, NumberCase{L"3..5", 3}, NumberCase{L"1.2.9", 1},
-                    NumberCase{L"5-", 5}, NumberCase{L"-", 0}, NumberCase{L"--5", 0},
-                    NumberCase{L"- 5", 0}, NumberCase{L"   42", 42}, NumberCase{L"4 2", 4},
-                    NumberCase{L"1e3", 1}, NumberCase{L"&H10", 0}, NumberCase{L"１２", 0},
-                    NumberCase{L"\t5", 0}, NumberCase{L"007", 7},
-                    NumberCase{L"2147483647", 2147483647},
-                    NumberCase{L"2147483648", 2147483647},
-                    NumberCase{L"2147483646.5", 2147483646},
-                    NumberCase{L"2147483647.5", 2147483647},
-                    NumberCase{L"-2147483648", -2147483647 - 1},
-                    NumberCase{L"-2147483649", -2147483647 - 1},
-                    NumberCase{L"99999999999999999999999999999999", 2147483647},
-                    NumberCase{L"-99999999999999999999999999999999", -2147483647 - 1}));
+    testing::Values(
+        NumberCase{L"", 0}, NumberCase{L"0", 0}, NumberCase{L"7", 7}, NumberCase{L"12abc", 12},
+        NumberCase{L"abc", 0}, NumberCase{L"a1", 0}, NumberCase{L"12.5", 12},
+        NumberCase{L"13.5", 14}, NumberCase{L"12.50", 12}, NumberCase{L"12.5000001", 13},
+        NumberCase{L"12.49999", 12}, NumberCase{L"-5", -5}, NumberCase{L"+5", 5},
+        NumberCase{L"-12.5", -12}, NumberCase{L"-13.5", -14}, NumberCase{L"-0.5", 0},
+        NumberCase{L"-0.6", -1}, NumberCase{L".7", 1}, NumberCase{L".5", 0}, NumberCase{L"1.5", 2},
+        NumberCase{L"3.", 3}, NumberCase{L"3..5", 3}, NumberCase{L"1.2.9", 1}, NumberCase{L"5-", 5},
+        NumberCase{L"-", 0}, NumberCase{L"--5", 0}, NumberCase{L"- 5", 0}, NumberCase{L"   42", 42},
+        NumberCase{L"4 2", 4}, NumberCase{L"1e3", 1}, NumberCase{L"&H10", 0},
+        NumberCase{L"１２", 0}, NumberCase{L"\t5", 0}, NumberCase{L"007", 7},
+        NumberCase{L"2147483647", 2147483647}, NumberCase{L"2147483648", 2147483647},
+        NumberCase{L"2147483646.5", 2147483646}, NumberCase{L"2147483647.5", 2147483647},
+        NumberCase{L"-2147483648", -2147483647 - 1}, NumberCase{L"-2147483649", -2147483647 - 1},
+        NumberCase{L"99999999999999999999999999999999", 2147483647},
+        NumberCase{L"-99999999999999999999999999999999", -2147483647 - 1}));
 
 TEST(TrimmedTest, TakesBlanksOnly) {
   EXPECT_EQ(Trimmed(L"  a b  "), L"a b");
@@ -176,9 +172,9 @@ ConfigValues DistinctValues() {
   std::int32_t number = 101;
   for (const ConfigKey& key : ConfigKeys()) {
     if (const auto* const text = std::get_if<std::wstring Settings::*>(&key.field)) {
-      values.record.**text = L"値 " + std::to_wstring(number++);
+      values.record.** text = L"値 " + std::to_wstring(number++);
     } else if (const auto* const field = std::get_if<std::int32_t Settings::*>(&key.field)) {
-      values.record.**field = number++;
+      values.record.** field = number++;
     } else {
       values.window.*std::get<std::int32_t WindowValues::*>(key.field) = -number++;
     }

@@ -55,8 +55,7 @@ TEST(HotKeyListTest, HoldsTheKeysThatCanBeChosen) {
 
 TEST(HotKeyCodeTest, FindsTheNameExactly) {
   for (std::size_t i = 0; i < MySub_HotKey::kHotKeyCount; ++i) {
-    EXPECT_EQ(MySub_HotKey::HotKeyCode(MySub_HotKey::HotKeyNames[i]),
-              MySub_HotKey::HotKeyCodes[i]);
+    EXPECT_EQ(MySub_HotKey::HotKeyCode(MySub_HotKey::HotKeyNames[i]), MySub_HotKey::HotKeyCodes[i]);
   }
   EXPECT_EQ(MySub_HotKey::HotKeyCode(L"esc"), 0);
   EXPECT_EQ(MySub_HotKey::HotKeyCode(L" ESC"), 0);
@@ -93,8 +92,8 @@ INSTANTIATE_TEST_SUITE_P(
         PressCase{116, true, true, true, false}, PressCase{0x40074, false, false, true, true},
         PressCase{0x40074, false, false, false, false}, PressCase{0x40074, true, true, true, true},
         PressCase{0x40074, true, false, false, false}, PressCase{0x10054, true, false, false, true},
-        PressCase{0x10054, false, false, false, false},
-        PressCase{0x10054, true, true, true, true}, PressCase{0x20041, false, true, false, true},
+        PressCase{0x10054, false, false, false, false}, PressCase{0x10054, true, true, true, true},
+        PressCase{0x20041, false, true, false, true},
         PressCase{0x20041, true, false, true, false}));
 
 TEST(HotKeyPressTest, AKeyThatIsOnlyHeldDoesNotFire) {
@@ -110,19 +109,60 @@ TEST(HotKeyPressTest, CodeZeroAsksForKeyZeroAndNeverFires) {
 }
 
 TEST(KeyNameTest, NamesTheKeysOfAJapaneseKeyboard) {
-  std::map<int, std::wstring> names{
-      {1, L" "},   {2, L" "},        {3, L"Break"},      {4, L" "},         {8, L"Backspace"},
-      {9, L"Tab"}, {13, L"Enter"},   {16, L"Shift"},     {17, L"Ctrl"},     {18, L"Alt"},
-      {19, L"Pause"}, {20, L"Caps Lock"}, {27, L"Esc"},  {28, L"変換"},     {29, L"無変換"},
-      {32, L"スペース"}, {33, L"PgUp"}, {34, L"PgDn"},   {35, L"End"},      {36, L"Home"},
-      {37, L"←"},  {38, L"↑"},       {39, L"→"},         {40, L"↓"},        {44, L"Print Screen"},
-      {45, L"Insert"}, {46, L"Delete"}, {91, L"左ウィンドウズキー"},
-      {92, L"右ウィンドウズキー"}, {93, L"アプリケーションキー"}, {106, L"*"}, {107, L"+"},
-      {108, L","}, {109, L"-"},      {110, L"."},        {111, L"/"},       {144, L"Num Lock"},
-      {145, L"Scroll Lock"}, {186, L":"}, {187, L";"},   {188, L","},       {189, L"-^"},
-      {190, L"."}, {191, L"/"},      {192, L"@"},        {219, L"["},       {220, L"\\"},
-      {221, L"]"}, {222, L"^"},      {226, L"\\(バックスラッシュ）"},       {240, L"Caps Lock"},
-      {242, L"カタカナ"}, {243, L"半角／全角"}, {244, L"半角／全角"}};
+  std::map<int, std::wstring> names{{1, L" "},
+                                    {2, L" "},
+                                    {3, L"Break"},
+                                    {4, L" "},
+                                    {8, L"Backspace"},
+                                    {9, L"Tab"},
+                                    {13, L"Enter"},
+                                    {16, L"Shift"},
+                                    {17, L"Ctrl"},
+                                    {18, L"Alt"},
+                                    {19, L"Pause"},
+                                    {20, L"Caps Lock"},
+                                    {27, L"Esc"},
+                                    {28, L"変換"},
+                                    {29, L"無変換"},
+                                    {32, L"スペース"},
+                                    {33, L"PgUp"},
+                                    {34, L"PgDn"},
+                                    {35, L"End"},
+                                    {36, L"Home"},
+                                    {37, L"←"},
+                                    {38, L"↑"},
+                                    {39, L"→"},
+                                    {40, L"↓"},
+                                    {44, L"Print Screen"},
+                                    {45, L"Insert"},
+                                    {46, L"Delete"},
+                                    {91, L"左ウィンドウズキー"},
+                                    {92, L"右ウィンドウズキー"},
+                                    {93, L"アプリケーションキー"},
+                                    {106, L"*"},
+                                    {107, L"+"},
+                                    {108, L","},
+                                    {109, L"-"},
+                                    {110, L"."},
+                                    {111, L"/"},
+                                    {144, L"Num Lock"},
+                                    {145, L"Scroll Lock"},
+                                    {186, L":"},
+                                    {187, L";"},
+                                    {188, L","},
+                                    {189, L"-^"},
+                                    {190, L"."},
+                                    {191, L"/"},
+                                    {192, L"@"},
+                                    {219, L"["},
+                                    {220, L"\\"},
+                                    {221, L"]"},
+                                    {222, L"^"},
+                                    {226, L"\\(バックスラッシュ）"},
+                                    {240, L"Caps Lock"},
+                                    {242, L"カタカナ"},
+                                    {243, L"半角／全角"},
+                                    {244, L"半角／全角"}};
   for (int i = 0; i <= 9; ++i) {
     names[48 + i] = std::to_wstring(i);
     names[96 + i] = L"テンキー" + std::to_wstring(i);

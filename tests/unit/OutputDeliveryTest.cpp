@@ -24,8 +24,8 @@ TEST(ChoosePanesTest, FollowsDetailAndForDocumentsTheirText) {
     std::size_t top;
     std::size_t bottom;
   } kCases[] = {
-      {0, 0, false, 2, 2}, {0, 1, false, 2, 2}, {1, 0, false, 1, 1}, {1, 1, false, 1, 1},
-      {0, 0, true, 2, 2},  {0, 1, true, 2, 3},  {1, 0, true, 1, 1},  {1, 1, true, 1, 1},
+      {0, 0, false, 2, 2}, {0, 1, false, 2, 2}, {1, 0, false, 1, 1},  {1, 1, false, 1, 1},
+      {0, 0, true, 2, 2},  {0, 1, true, 2, 3},  {1, 0, true, 1, 1},   {1, 1, true, 1, 1},
       {0, 9, true, 2, 3},  {5, 9, true, 1, 1},  {-1, 0, false, 1, 1},
   };
   for (const auto& row : kCases) {
@@ -66,19 +66,20 @@ TEST(RedisplayPanesTest, BothPanesNameTheSameFile) {
   for (const ViewText pane : {ViewText::TopPane, ViewText::BottomPane}) {
     EXPECT_NE(fake.view.texts[pane].find(kTopOverflowFile), std::wstring::npos);
   }
-  EXPECT_FALSE(std::filesystem::exists(std::filesystem::path(DesktopFolder()) /
-                                       kBottomOverflowFile));
+  EXPECT_FALSE(
+      std::filesystem::exists(std::filesystem::path(DesktopFolder()) / kBottomOverflowFile));
   std::filesystem::remove(std::filesystem::path(DesktopFolder()) / kTopOverflowFile);
 }
 
 class PutPaneTextTest : public testing::Test {
  protected:
   PutPaneTextTest()
-      : before_(platform::SetMessageBox([this](const std::wstring& text, const std::wstring& title) {
-          boxText_ = text;
-          boxTitle_ = title;
-          ++boxes_;
-        })) {
+      : before_(
+            platform::SetMessageBox([this](const std::wstring& text, const std::wstring& title) {
+              boxText_ = text;
+              boxTitle_ = title;
+              ++boxes_;
+            })) {
     fake_.view.texts[ViewText::TopPane] = L"before";
   }
   ~PutPaneTextTest() override { platform::SetMessageBox(before_); }
@@ -119,9 +120,10 @@ TEST_F(PutPaneTextTest, WritesTheWholeTextWhenAsked) {
   std::wstring text(70'000, L'字');
   text += L"終\r\nend";
   Put(text, 1);
-  EXPECT_TRUE(Shown().ends_with(L"\r\n文字数オーバー　65000文字迄\r\nデスクトップの「長い.txt」"
-                                L"に\r\n保存しました！\r\n" +
-                                std::wstring(kRule)));
+  EXPECT_TRUE(
+      Shown().ends_with(L"\r\n文字数オーバー　65000文字迄\r\nデスクトップの「長い.txt」"
+                        L"に\r\n保存しました！\r\n" +
+                        std::wstring(kRule)));
   std::ifstream file(File(), std::ios::binary);
   std::ostringstream bytes;
   bytes << file.rdbuf();

@@ -39,10 +39,9 @@ TEST(FormLoadTest, RunsItsStepsInOrder) {
   // What decides about the start is what the file says, not what was there before.
   recorder.onLoad = [&settings] { settings.autoStart = 1; };
   Form_Load(recorder, settings, L"");
-  EXPECT_THAT(recorder.steps,
-              ElementsAre("version", "twips per pixel", "labels", "configuration",
-                          "display settings", "stop hint", "action key", "idle polling",
-                          "capture"));
+  EXPECT_THAT(recorder.steps, ElementsAre("version", "twips per pixel", "labels", "configuration",
+                                          "display settings", "stop hint", "action key",
+                                          "idle polling", "capture"));
 }
 
 TEST(FormLoadTest, StartsACaptureOnlyWhenAskedAndNotForbidden) {

@@ -21,7 +21,10 @@ TEST(WithCrLfTest, TurnsALoneLineFeedIntoALineEnd) {
 
 TEST(WithCrLfTest, ThePlaceholderItselfBecomesALineEnd) {
   EXPECT_EQ(WithCrLf(L"a%!LF!%b", L"%!LF!%"), L"a\r\nb");
-  EXPECT_EQ(WithCrLf(L"a\x01" L"b", L"\x01"), L"a\r\nb");
+  EXPECT_EQ(WithCrLf(L"a\x01"
+                     L"b",
+                     L"\x01"),
+            L"a\r\nb");
 }
 
 TEST(UpToNulTest, NeedsAZeroCharacter) {

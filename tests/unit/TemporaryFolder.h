@@ -11,9 +11,9 @@ class TemporaryFolder {
  public:
   TemporaryFolder() {
     static int count = 0;
-    path_ = std::filesystem::temp_directory_path() /
-            (L"velmora " + std::to_wstring(GetCurrentProcessId()) + L" " +
-             std::to_wstring(++count));
+    path_ =
+        std::filesystem::temp_directory_path() /
+        (L"velmora " + std::to_wstring(GetCurrentProcessId()) + L" " + std::to_wstring(++count));
     std::filesystem::create_directories(path_);
   }
   TemporaryFolder(const TemporaryFolder&) = delete;

@@ -1,0 +1,235 @@
+// The main window inside the test's own process, for what cannot be seen from outside.
+
+#include <gtest/gtest.h>
+
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <array>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "TemporaryFolder.h"
+#include "extract/Win32API_Window.h"
+#include "ui/ControlIds.h"
+#include "ui/MainWindowControls.h"
+#include "ui/frmQuorvinFromPoint.h"
+
+namespace ui {
+namespace {
+
+struct ChildSearch {
+  int id;
+  HWND found;
+};
+
+BOOL CALLBACK FindById(HWND child, LPARAM context) {
+  auto& search = *reinterpret_cast<ChildSearch*>(context);
+  if (GetDlgCtrlID(child) != search.id) return TRUE;
+  search.found = child;
+  return FALSE;
+}
+
+struct TipSearch {
+  HWND owner;
+  HWND found;
+};
+
+BOOL CALLBACK FindTips(HWND candidate, LPARAM context) {
+  auto& search = *reinterpret_cast<TipSearch*>(context);
+  if (Win32API_Window::MyGetClassName(candidate) != TOOLTIPS_CLASSW) return TRUE;
+  if (GetWindow(candidate, GW_OWNER) != search.owner) return TRUE;
+  search.found = candidate;
+  return FALSE;
+}
+
+class MainWindowTest : public testing::Test {
+ protected:
+  void Load(const std::string& configuration, const std::wstring& commandLine = L"") {
+    std::ofstream(folder_.Path() / "Conf.txt", std::ios::binary) << configuration;
+    window_ = std::make_unique<frmQuorvinFromPoint>(
+        settings_, state_,
+        MainWindowPlan{folder_.Path().wstring(), commandLine, [this] { ++ended_; }});
+    ASSERT_TRUE(window_->Load());
+  }
+
+  HWND Control(int id) const {
+    ChildSearch search{id, nullptr};
+    EnumChildWindows(window_->Handle(), FindById, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+  }
+
+  std::wstring Tip(int id) const {
+    TipSearch search{window_->Handle(), nullptr};
+    EnumThreadWindows(GetCurrentThreadId(), FindTips, reinterpret_cast<LPARAM>(&search));
+    std::array<wchar_t, 1024> text{};
+    TTTOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    tool.hwnd = window_->Handle();
+    tool.uId = reinterpret_cast<UINT_PTR>(Control(id));
+    tool.lpszText = text.data();
+    SendMessageW(search.found, TTM_GETTEXTW, text.size(), reinterpret_cast<LPARAM>(&tool));
+    return text.data();
+  }
+
+  void DoubleClick(int id, WORD notification) {
+    SendMessageW(GetParent(Control(id)), WM_COMMAND, MAKEWPARAM(id, notification),
+                 reinterpret_cast<LPARAM>(Control(id)));
+  }
+
+  RECT Place(int id) const {
+    RECT place{};
+    GetWindowRect(Control(id), &place);
+    MapWindowPoints(nullptr, window_->Handle(), reinterpret_cast<POINT*>(&place), 2);
+    return place;
+  }
+
+  bool ConfigurationWasWritten() const {
+    std::ifstream file(folder_.Path() / "Conf.txt");
+    std::string line;
+    std::getline(file, line);
+    return line.starts_with("form left = ");
+  }
+
+  TemporaryFolder folder_;
+  settings::Settings settings_;
+  capture::CaptureState state_;
+  int ended_ = 0;
+  std::unique_ptr<frmQuorvinFromPoint> window_;
+};
+
+TEST_F(MainWindowTest, EveryControlOfTheTableExistsInItsFrame) {
+  Load("");
+  for (const ControlRow& row : MainWindowControls()) {
+    const HWND control = Control(row.id);
+    ASSERT_NE(control, nullptr) << row.id;
+    const HWND parent = row.parent == 0 ? window_->Handle() : Control(row.parent);
+    EXPECT_EQ(GetParent(control), parent) << row.id;
+  }
+}
+
+TEST_F(MainWindowTest, ANewDpiScalesEverything) {
+  Load("form left=10\nform top=10\nform right=410\nform bottom=410\n");
+  ASSERT_EQ(state_.TwipsPerPixelX, 15);
+  const RECT buttonBefore = Place(cmdGo);
+  const RECT suggested{20, 20, 620, 620};
+  SendMessageW(window_->Handle(), WM_DPICHANGED, MAKEWPARAM(144, 144),
+               reinterpret_cast<LPARAM>(&suggested));
+  EXPECT_EQ(state_.TwipsPerPixelX, 10);
+  EXPECT_EQ(state_.TwipsPerPixelY, 10);
+  RECT now{};
+  GetWindowRect(window_->Handle(), &now);
+  EXPECT_TRUE(EqualRect(&now, &suggested));
+  const RECT button = Place(cmdGo);
+  EXPECT_EQ(button.right - button.left, (buttonBefore.right - buttonBefore.left) * 3 / 2);
+  LOGFONTW font{};
+  GetObjectW(reinterpret_cast<HFONT>(SendMessageW(Control(cmdGo), WM_GETFONT, 0, 0)), sizeof font,
+             &font);
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, 144);
+  EXPECT_EQ(font.lfHeight, metrics.lfMessageFont.lfHeight);
+  // Laid out anew: the right edge is kept.
+  RECT inner{};
+  GetClientRect(window_->Handle(), &inner);
+  EXPECT_EQ(Place(chkAutoStop).right, inner.right);
+}
+
+TEST_F(MainWindowTest, TellsWhatTheButtonDoes) {
+  Load("");
+  EXPECT_EQ(Tip(cmdGo), L"Velmora列取得開始");
+}
+
+TEST_F(MainWindowTest, PositionLabelNamesTheOtherModeInItsTip) {
+  Load("");
+  constexpr std::wstring_view kScreen =
+      L"マウスポインタ（スクリーン）座標  ダブルクリックでクライアント座標に切り替え";
+  constexpr std::wstring_view kClient =
+      L"マウスポインタ（クライアント）座標  ダブルクリックでスクリーン座標に切り替え";
+  EXPECT_EQ(Tip(lblMousePos), kScreen);
+  DoubleClick(lblMousePos, STN_DBLCLK);
+  EXPECT_EQ(Tip(lblMousePos), kClient);
+  EXPECT_EQ(settings_.mousPos, L"client");
+  DoubleClick(lblMousePos, STN_DBLCLK);
+  EXPECT_EQ(Tip(lblMousePos), kScreen);
+  EXPECT_EQ(settings_.mousPos, L"screen");
+}
+
+TEST_F(MainWindowTest, AnyOtherModeSwitchesToTheScreen) {
+  Load("mous pos = Client\n");
+  DoubleClick(lblMousePos, STN_DBLCLK);
+  EXPECT_EQ(settings_.mousPos, L"screen");
+}
+
+TEST_F(MainWindowTest, ClosingWhileIdleSavesOnceAndEnds) {
+  Load("hint = 1\n");
+  SendMessageW(window_->Handle(), WM_CLOSE, 0, 0);
+  EXPECT_EQ(ended_, 1);
+  EXPECT_TRUE(ConfigurationWasWritten());
+}
+
+TEST_F(MainWindowTest, ClosingDuringACaptureEndsWithoutSaving) {
+  Load("hint = 1\n");
+  state_.CaptureRunning = true;
+  state_.RunState = capture::kGo;
+  SendMessageW(window_->Handle(), WM_CLOSE, 0, 0);
+  EXPECT_EQ(ended_, 1);
+  EXPECT_FALSE(state_.CaptureRunning);
+  EXPECT_EQ(state_.RunState, L"Unload");
+  EXPECT_TRUE(IsWindow(window_->Handle()));  // the close itself is cancelled
+  EXPECT_FALSE(ConfigurationWasWritten());
+}
+
+TEST_F(MainWindowTest, TheEndOfTheSessionSavesToo) {
+  Load("hint = 1\n");
+  EXPECT_TRUE(SendMessageW(window_->Handle(), WM_QUERYENDSESSION, 0, 0));
+  SendMessageW(window_->Handle(), WM_ENDSESSION, FALSE, 0);
+  EXPECT_EQ(ended_, 0);
+  SendMessageW(window_->Handle(), WM_ENDSESSION, TRUE, 0);
+  EXPECT_EQ(ended_, 1);
+  EXPECT_TRUE(ConfigurationWasWritten());
+}
+
+TEST_F(MainWindowTest, MinimisingKeepsTheTopHeight) {
+  Load("top height = 1500\nform left=10\nform top=10\nform right=410\nform bottom=510\n");
+  ShowWindow(window_->Handle(), SW_MINIMIZE);
+  EXPECT_EQ(settings_.topHeight, 1500);
+  ShowWindow(window_->Handle(), SW_RESTORE);
+  EXPECT_EQ(settings_.topHeight, 1500);
+}
+
+TEST_F(MainWindowTest, NoPlaceIsTakenWhileTheLayoutIsHeld) {
+  Load("");
+  const RECT before = Place(chkAutoStop);
+  // A size change during start-up comes before the controls have their final places.
+  MainWindowFace face(settings_, state_);
+  face.HoldLayout(true);
+  face.Form_Resize();
+  EXPECT_EQ(face.Geometry(), DesignGeometry());
+  EXPECT_EQ(Place(chkAutoStop).right, before.right);
+}
+
+TEST_F(MainWindowTest, APaneHoldsAsMuchAsItIsGiven) {
+  Load("");
+  const std::wstring text(70'000, L'長');
+  SetWindowTextW(Control(txtWinTextT0), text.c_str());
+  EXPECT_EQ(WindowText(Control(txtWinTextT0)), text);
+}
+
+TEST_F(MainWindowTest, TheTabKeyVisitsTheControlsFromTopToBottom) {
+  Load("");
+  std::vector<int> visited;
+  HWND at = Control(cmdGo);
+  do {
+    visited.push_back(GetDlgCtrlID(at));
+    at = GetNextDlgTabItem(window_->Handle(), at, FALSE);
+  } while (at != Control(cmdGo) && visited.size() < 50);
+  EXPECT_EQ(visited, (std::vector<int>{cmdGo, cmdSetting, txtWin0, chkAutoStop, chkTurnBack,
+                                       txthWnd, txtWinTextT0, txtWin3, txtWin1, txtWin2, txtCount,
+                                       chkDetail, txtWinTextB0, txtStatus, Help_Url, MyUrl}));
+}
+
+}  // namespace
+}  // namespace ui
