@@ -97,11 +97,23 @@ TEST_F(AutoStopTest, WithoutATimeTheCaptureGoesOn) {
 TEST_F(AutoStopTest, SwitchedOffShowsNoCountdown) {
   const Program program({.conf = "auto stop = 0\nauto stop time = 2\n"});
   program.StartCapture();
-  program[ui::lblAutoStop].SetText("7");
-  EXPECT_TRUE(program[ui::lblAutoStop].TextBecomes(""));
   EXPECT_TRUE(Stays(
-      "the capture goes on", [&](std::string&) { return program.IsCapturing(); },
+      "the capture goes on without a countdown",
+      [&](std::string& seen) {
+        seen = program[ui::lblAutoStop].Text();
+        return program.IsCapturing() && seen.empty();
+      },
       Milliseconds(2500)));
+}
+
+TEST_F(AutoStopTest, SwitchingOffEndsTheCountdown) {
+  const Program program({.conf = "auto stop = 1\nauto stop time = 5\n"});
+  program.StartCapture();
+  pointer::MoveTo({100, 700});
+  ASSERT_TRUE(program[ui::lblAutoStop].TextBecomes("3"));
+  program[ui::chkAutoStop].PressButton();
+  EXPECT_TRUE(program[ui::lblAutoStop].TextBecomes("", Milliseconds(900)));
+  EXPECT_TRUE(program[ui::cmdGo].TextStays("停止", Milliseconds(3500)));
 }
 
 TEST_F(AutoStopTest, BoxTakesEffectDuringTheCaptureAndIsSaved) {
@@ -128,8 +140,8 @@ TEST_F(AutoStopTest, AutoCloseHidesTheWindowThenSavesAndEnds) {
   program.StartCapture();
   pointer::MoveTo({100, 700});
   const auto rested = Clock::now();
-  EXPECT_TRUE(WaitFor("the window is hidden",
-                      [&](std::string&) { return !program.Window().IsVisible(); }));
+  EXPECT_TRUE(
+      WaitFor("the window is hidden", [&](std::string&) { return !program.Window().IsVisible(); }));
   const double hidden = SecondsSince(rested);
   EXPECT_GT(hidden, 2.5 - kShort);
   EXPECT_LT(hidden, 2.5 + kSlack);

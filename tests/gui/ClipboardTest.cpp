@@ -56,15 +56,16 @@ TEST_F(ClipboardTest, ModeTopCopiesTheTopPane) {
 }
 
 TEST_F(ClipboardTest, ModeBottomCopiesTheBottomPane) {
-  const Program program({.conf = "clipboard = 3\n"});
+  const Program program({.conf = "clipboard = 3\ndetail = 1\n"});
   program.StartCapture();
   pointer::MoveTo(fixture_["static"].Center());
-  ASSERT_TRUE(program.TopPane().TextBecomes("拾った文字"));
+  ASSERT_TRUE(program[ui::txthWnd].TextBecomes(fixture_["static"].HandleText()));
   ASSERT_TRUE(program[ui::lblMsg].TextBecomes(""));
-  program.BottomPane().SetText("下段の中身\r\n二行");
+  const std::string bottom = program.BottomPane().Text();
+  ASSERT_NE(bottom, "");
   keys::Stroke({VK_ESCAPE});
   EXPECT_TRUE(program[ui::lblMsg].TextBecomes("下段 クリップボード転送完了"));
-  EXPECT_EQ(clipboard::Text(), "下段の中身\r\n二行");
+  EXPECT_EQ(clipboard::Text(), bottom);
 }
 
 TEST_F(ClipboardTest, UnknownModeDoesNothing) {

@@ -5,6 +5,7 @@
 
 #include "SettingsText.h"
 #include "driver/GuiTest.h"
+#include "driver/Owners.h"
 #include "driver/Program.h"
 #include "driver/Text.h"
 #include "driver/Windows.h"
@@ -200,9 +201,8 @@ TEST_F(ConfigFileTest, MovedWindowIsSavedInPixels) {
 TEST_F(ConfigFileTest, MaximisedWindowSavesItsNormalRectangle) {
   Program program({.conf = "form left = 90\nform top = 80\nform right = 510\nform bottom = 460\n"});
   ShowWindowAsync(program.Window().Handle(), SW_MAXIMIZE);
-  ASSERT_TRUE(WaitFor("the window is maximised", [&](std::string&) {
-    return IsZoomed(program.Window().Handle()) != FALSE;
-  }));
+  ASSERT_TRUE(WaitFor("the window is maximised",
+                      [&](std::string&) { return IsZoomed(program.Window().Handle()) != FALSE; }));
   ASSERT_EQ(program.CloseAndWait(), 0U);
   const auto lines = program.ConfLines();
   EXPECT_EQ(ValueOf(lines, "form left"), "90");
@@ -213,9 +213,8 @@ TEST_F(ConfigFileTest, MinimisedWindowSavesItsRectangleAndPaneHeight) {
   Program program({.conf = "form left = 90\nform top = 80\nform right = 510\nform bottom = 460\n"
                            "top height = 1950\n"});
   ShowWindowAsync(program.Window().Handle(), SW_MINIMIZE);
-  ASSERT_TRUE(WaitFor("the window is minimised", [&](std::string&) {
-    return IsIconic(program.Window().Handle()) != FALSE;
-  }));
+  ASSERT_TRUE(WaitFor("the window is minimised",
+                      [&](std::string&) { return IsIconic(program.Window().Handle()) != FALSE; }));
   ASSERT_EQ(program.CloseAndWait(), 0U);
   const auto lines = program.ConfLines();
   EXPECT_EQ(ValueOf(lines, "form right"), "510");
@@ -224,10 +223,13 @@ TEST_F(ConfigFileTest, MinimisedWindowSavesItsRectangleAndPaneHeight) {
 
 TEST_F(ConfigFileTest, FileThatCannotBeWrittenStaysAndNothingIsSaid) {
   Program program({.conf = "shiftx = 5\n"});
-  ASSERT_TRUE(SetFileAttributesW(program.ConfFile().c_str(), FILE_ATTRIBUTE_READONLY));
-  EXPECT_EQ(program.CloseAndWait(), 0U);
+  {
+    const OwnedHandle held(CreateFileW(program.ConfFile().c_str(), GENERIC_READ, FILE_SHARE_READ,
+                                       nullptr, OPEN_EXISTING, 0, nullptr));
+    ASSERT_NE(held.get(), INVALID_HANDLE_VALUE);
+    EXPECT_EQ(program.CloseAndWait(), 0U);
+  }
   EXPECT_EQ(program.ConfBytes(), "shiftx = 5\r\n");
-  SetFileAttributesW(program.ConfFile().c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
 TEST_F(ConfigFileTest, LastOfTwoRunningProgramsWins) {

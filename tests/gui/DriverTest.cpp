@@ -36,8 +36,8 @@ TEST_F(DriverTest, PointerStandsOverTheWindowThatIsShown) {
 TEST_F(DriverTest, TypesIntoTheControlThatWasClicked) {
   const Fixture fixture("title=t edit");
   fixture["edit"].Click();
-  ASSERT_TRUE(WaitFor("the edit has the focus",
-                      [&](std::string&) { return fixture["edit"].HasFocus(); }));
+  ASSERT_TRUE(
+      WaitFor("the edit has the focus", [&](std::string&) { return fixture["edit"].HasFocus(); }));
   keys::Stroke({'K'}, Milliseconds(30));
   keys::Stroke({VK_SHIFT, 'J'}, Milliseconds(30));
   EXPECT_TRUE(fixture["edit"].TextBecomes("kJ"));

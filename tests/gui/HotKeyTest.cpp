@@ -74,11 +74,10 @@ TEST_F(HotKeyTest, NoKeyNamedMeansNoKey) {
 TEST_F(HotKeyTest, StopHintNamesTheActionTest) {
   const char* const lines[] = {" で DoDefAction Test", " で Select 1 Test", " で Select 2 Test"};
   for (int action = 1; action <= 3; ++action) {
-    const Program program(
-        {.conf = "hotkey = F11\naction test = " + std::to_string(action) + "\n"});
+    const Program program({.conf = "hotkey = F11\naction test = " + std::to_string(action) + "\n"});
     program.StartCapture();
-    EXPECT_TRUE(program[ui::lblStatus].TextBecomes(std::string("F11で停止\r\nCtrl") +
-                                                   lines[action - 1]));
+    EXPECT_TRUE(
+        program[ui::lblStatus].TextBecomes(std::string("F11で停止\r\nCtrl") + lines[action - 1]));
   }
 }
 

@@ -81,6 +81,18 @@ std::string LongestUsualText(int id) {
   }
 }
 
+// A link's text without the marks around its clickable part.
+std::string WithoutMarks(const std::string& text) {
+  std::string shown;
+  bool inMark = false;
+  for (const char c : text) {
+    if (c == '<') inMark = true;
+    if (!inMark) shown += c;
+    if (c == '>') inMark = false;
+  }
+  return shown;
+}
+
 // What a control needs beside its text.
 SIZE Surroundings(const Control& control, UINT dpi) {
   const LONG unit = static_cast<LONG>(dpi);
@@ -131,7 +143,7 @@ std::vector<std::string> ClippedTexts(const Program& program, UINT dpi) {
     const int id = GetDlgCtrlID(window);
     const Control control(window, std::to_string(id));
     std::string text = LongestUsualText(id);
-    if (text.empty() && control.ClassName() != "Edit") text = control.Text();
+    if (text.empty() && control.ClassName() != "Edit") text = WithoutMarks(control.Text());
     if (text.empty()) continue;
     const SIZE needed = ruler.Measure(text);
     const SIZE around = Surroundings(control, dpi);

@@ -38,10 +38,9 @@ TEST_F(LayoutTest, RightPartsFollowTheWindowsWidth) {
     program.MoveWindowTo(50, 50, width, 427);
     const LONG right = 50 + width - (50 + width - InnerArea(program.Window()).right);
     for (const int id : {ui::chkAutoStop, ui::chkTurnBack, ui::fr_Mous, ui::fr_Help}) {
-      EXPECT_TRUE(TextBecomes("the right edge", std::to_string(right), [&] {
-        return std::to_string(program[id].Rectangle().right);
-      })) << "control "
-          << id << ", width " << width;
+      EXPECT_TRUE(TextBecomes("the right edge", std::to_string(right),
+                              [&] { return std::to_string(program[id].Rectangle().right); }))
+          << "control " << id << ", width " << width;
     }
     const RECT inner = InnerArea(program.Window());
     EXPECT_EQ(program.TopPane().Rectangle().left, inner.left + 2);
@@ -108,6 +107,13 @@ TEST_F(LayoutTest, VeryNarrowWindowKeepsWorking) {
                           [&] { return std::to_string(program[ui::lblStatus].Size().cx); }));
 }
 
+// Whole twips to a pixel, as the program lays out.
+LONG TwipsPerPixel(UINT dpi) { return 1440 / static_cast<LONG>(dpi); }
+
+LONG PixelsRoundedUp(LONG twips, UINT dpi) {
+  return (twips + TwipsPerPixel(dpi) - 1) / TwipsPerPixel(dpi);
+}
+
 // The window that a screen of the usual physical size gives at that resolution.
 std::string ConfFor(UINT dpi, int height96) {
   const auto scaled = [&](int pixels) { return pixels * static_cast<int>(dpi) / 96; };
@@ -120,7 +126,6 @@ class ResolutionTest : public GuiTest, public testing::WithParamInterface<UINT> 
 TEST_P(ResolutionTest, DefaultSizeShowsEverything) {
   const Resolution resolution(GetParam());
   const Program program({.conf = ConfFor(GetParam(), 427)});
-  EXPECT_EQ(GetDpiForWindow(program.Window().Handle()), GetParam());
   EXPECT_THAT(Overlaps(program), IsEmpty());
   EXPECT_THAT(Protruding(program), IsEmpty());
   EXPECT_THAT(ClippedTexts(program, GetParam()), IsEmpty());
@@ -130,7 +135,7 @@ TEST_P(ResolutionTest, DefaultSizeShowsEverything) {
 TEST_P(ResolutionTest, SmallestSizeShowsEverything) {
   const Resolution resolution(GetParam());
   const Program program({.conf = ConfFor(GetParam(), 100) + "top height = 300\n"});
-  EXPECT_EQ(program.Window().Size().cy, 210 * static_cast<LONG>(GetParam()) / 96);
+  EXPECT_EQ(program.Window().Size().cy, PixelsRoundedUp(3150, GetParam()));
   EXPECT_THAT(Overlaps(program), IsEmpty());
   EXPECT_THAT(Protruding(program), IsEmpty());
   EXPECT_THAT(ClippedTexts(program, GetParam()), IsEmpty());
@@ -139,11 +144,22 @@ TEST_P(ResolutionTest, SmallestSizeShowsEverything) {
 
 TEST_P(ResolutionTest, StoredSizesSurvive) {
   const Resolution resolution(GetParam());
-  Program program({.conf = ConfFor(GetParam(), 427) + "top height = 1500\n"});
-  EXPECT_EQ(program.TopPane().Size().cy, 1500 * static_cast<LONG>(GetParam()) / 1440);
+  const LONG height = 130 * TwipsPerPixel(GetParam());
+  Program program(
+      {.conf = ConfFor(GetParam(), 427) + "top height = " + std::to_string(height) + "\n"});
+  EXPECT_EQ(program.TopPane().Size().cy, 130);
   ASSERT_EQ(program.CloseAndWait(), 0U);
-  EXPECT_EQ(ValueOf(program.ConfLines(), "top height"), "1500");
+  EXPECT_EQ(ValueOf(program.ConfLines(), "top height"), std::to_string(height));
   EXPECT_EQ(ValueOf(program.ConfLines(), "form left"), "100");
+}
+
+TEST_P(ResolutionTest, ControlsGrowWithTheResolution) {
+  const SIZE normal = Program()[ui::cmdGo].Size();
+  const Resolution resolution(GetParam());
+  const SIZE size = Program()[ui::cmdGo].Size();
+  const auto expected = [](LONG pixels) { return pixels * 15 / TwipsPerPixel(GetParam()); };
+  EXPECT_NEAR(size.cx, expected(normal.cx), 1);
+  EXPECT_NEAR(size.cy, expected(normal.cy), 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Dpi, ResolutionTest, testing::Values(96U, 120U, 144U, 192U),

@@ -1,6 +1,7 @@
 // Captures over programs that nobody here wrote.
 #include <windows.h>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -24,6 +25,7 @@ class RealProgramsTest : public GuiTest {
   // Moves the pointer there and waits until the boxes tell what the system finds at that point.
   static void ExpectReport(const Program& program, POINT point, const Control& target) {
     pointer::MoveTo(point);
+    ASSERT_EQ(Control(WindowFromPoint(point), "").ClassName(), target.ClassName());
     ASSERT_EQ(WindowFromPoint(point), target.Handle());
     EXPECT_TRUE(program[ui::txthWnd].TextBecomes(target.HandleText()));
     EXPECT_TRUE(program[ui::txtWin0].TextBecomes(target.ClassName()));
@@ -38,7 +40,7 @@ class RealProgramsTest : public GuiTest {
 
 TEST_F(RealProgramsTest, NotepadWithAJapaneseText) {
   const std::string text = "吾輩は猫である。\r\n名前はまだ無い。\r\nABC ｶﾅ 123";
-  const std::filesystem::path file = FreshFolder() / "猫.txt";
+  const std::filesystem::path file = FreshFolder() / L"猫.txt";
   {
     std::ofstream out(file, std::ios::binary);
     out << ToCodePage(text);
@@ -57,7 +59,7 @@ TEST_F(RealProgramsTest, NotepadWithAJapaneseText) {
 
   ExpectReport(program, CaptionOf(notepad.Window()), notepad.Window());
   EXPECT_TRUE(program.TopPane().TextBecomes(notepad.Window().Text()));
-  EXPECT_NE(notepad.Window().Text().find("猫"), std::string::npos);
+  EXPECT_THAT(notepad.Window().Text(), testing::HasSubstr("猫"));
 }
 
 TEST_F(RealProgramsTest, RegistryEditor) {
@@ -86,14 +88,23 @@ TEST_F(RealProgramsTest, WineConfiguration) {
   EXPECT_TRUE(program.TopPane().TextBecomes(winecfg.Window().Text()));
   EXPECT_NE(winecfg.Window().Text(), "");
 
-  const Control list = winecfg.Inside("SysListView32");
-  ExpectReport(program, list.Center(), list);
-  const Control button = winecfg.Inside("Button");
-  SaveScreenshot("winecfg");
-  if (WindowFromPoint(button.Center()) == button.Handle()) {
-    ExpectReport(program, button.Center(), button);
-    EXPECT_TRUE(program.TopPane().TextBecomes(button.Text()));
+  const Control tabs = winecfg.Inside("SysTabControl32");
+  const RECT row = tabs.Rectangle();
+  ExpectReport(program, {row.left + 30, row.top + 12}, tabs);
+
+  // Every part of the first page that can be pointed at in its middle.
+  int parts = 0;
+  for (HWND window : Descendants(winecfg.Window().Handle())) {
+    const Control part(window, "a part of the page");
+    if (!part.IsVisible() || WindowFromPoint(part.Center()) != window) continue;
+    ExpectReport(program, part.Center(), part);
+    if (part.ClassName() != "SysListView32") {
+      EXPECT_TRUE(program.TopPane().TextBecomes(part.Text()));
+    }
+    ++parts;
   }
+  EXPECT_GE(parts, 3);
+  SaveScreenshot("winecfg");
 }
 
 }  // namespace

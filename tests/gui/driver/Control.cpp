@@ -100,12 +100,14 @@ void Control::PressButton() const { PostMessageW(window_, BM_CLICK, 0, 0); }
 
 testing::AssertionResult Control::TextBecomes(std::string_view expected,
                                               Milliseconds deadline) const {
-  return gui::TextBecomes(name_, expected, [&] { return Text(); }, deadline);
+  return gui::TextBecomes(
+      name_, expected, [&] { return Text(); }, deadline);
 }
 
 testing::AssertionResult Control::TextStays(std::string_view expected,
                                             Milliseconds duration) const {
-  return gui::TextStays(name_, expected, [&] { return Text(); }, duration);
+  return gui::TextStays(
+      name_, expected, [&] { return Text(); }, duration);
 }
 
 std::vector<HWND> Descendants(HWND parent) {

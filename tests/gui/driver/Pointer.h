@@ -16,7 +16,8 @@ void Press(POINT point);
 void Release();
 
 // Press at `from`, move in steps to `to`; `beforeRelease` runs with the button still down.
-void Drag(POINT from, POINT to, const std::function<void()>& beforeRelease = [] {});
+void Drag(
+    POINT from, POINT to, const std::function<void()>& beforeRelease = [] {});
 
 // A corner of the screen where tests show no window.
 void Park();

@@ -28,8 +28,8 @@ std::string WithCrLf(std::string_view text) {
 std::filesystem::path Prepared(const ProgramStart& start) {
   const std::filesystem::path folder = start.folder.empty() ? FreshFolder() : start.folder;
   std::filesystem::create_directories(folder);
-  std::filesystem::copy_file(ProgramFile(), folder / "Velmora.exe",
-                             std::filesystem::copy_options::skip_existing);
+  const std::filesystem::path program = folder / "Velmora.exe";
+  if (!std::filesystem::exists(program)) std::filesystem::copy_file(ProgramFile(), program);
   if (start.conf.has_value()) {
     std::ofstream out(folder / "Conf.txt", std::ios::binary);
     out << ToCodePage(WithCrLf(*start.conf));

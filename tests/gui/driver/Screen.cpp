@@ -76,8 +76,8 @@ Bytes Stored(const Bytes& raw) {
     const auto low = static_cast<std::uint8_t>(length & 0xFFU);
     const auto high = static_cast<std::uint8_t>(length >> 8U);
     stream.push_back(at + length == raw.size() ? 1 : 0);
-    stream.insert(stream.end(), {low, high, static_cast<std::uint8_t>(~low),
-                                 static_cast<std::uint8_t>(~high)});
+    stream.insert(stream.end(),
+                  {low, high, static_cast<std::uint8_t>(~low), static_cast<std::uint8_t>(~high)});
     const auto from = raw.begin() + static_cast<std::ptrdiff_t>(at);
     stream.insert(stream.end(), from, from + static_cast<std::ptrdiff_t>(length));
   }

@@ -69,7 +69,8 @@ Control WineProgram::Inside(std::string_view className) const {
 }
 
 void WineProgram::MoveTo(int left, int top, int width, int height) const {
-  SetWindowPos(window_, HWND_TOP, left, top, width, height, SWP_NOACTIVATE);
+  const UINT keepSize = width == 0 ? SWP_NOSIZE : 0;
+  SetWindowPos(window_, HWND_TOP, left, top, width, height, SWP_NOACTIVATE | keepSize);
 }
 
 }  // namespace gui

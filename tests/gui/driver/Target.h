@@ -42,6 +42,7 @@ class WineProgram {
   Control Window() const { return {window_, "the target's window"}; }
   // The first visible window of that class inside. Waits for it.
   Control Inside(std::string_view className) const;
+  // A width of 0 keeps the size, for windows that have one of their own.
   void MoveTo(int left, int top, int width, int height) const;
 
  private:

@@ -14,9 +14,9 @@ using Clock = std::chrono::steady_clock;
 testing::AssertionResult Failure(std::string_view what, const std::string& seen, bool kept,
                                  Clock::duration passed) {
   const auto ms = std::chrono::duration_cast<Milliseconds>(passed).count();
-  return testing::AssertionFailure() << what << (kept ? ": no longer true after "
-                                                      : ": not so within ")
-                                     << ms << " ms; last seen: \"" << seen << "\"";
+  return testing::AssertionFailure()
+         << what << (kept ? ": no longer true after " : ": not so within ") << ms
+         << " ms; last seen: \"" << seen << "\"";
 }
 
 }  // namespace

@@ -31,8 +31,7 @@ testing::AssertionResult TextBecomes(std::string_view what, std::string_view exp
                                      const std::function<std::string()>& read,
                                      Milliseconds deadline = kPatience);
 testing::AssertionResult TextStays(std::string_view what, std::string_view expected,
-                                   const std::function<std::string()>& read,
-                                   Milliseconds duration);
+                                   const std::function<std::string()>& read, Milliseconds duration);
 
 // Lets that time pass: for actions that take time themselves, such as holding a key down.
 void Last(Milliseconds duration);
