@@ -1,6 +1,7 @@
 // The program as it stands right after its start.
-#include <tlhelp32.h>
 #include <windows.h>
+
+#include <tlhelp32.h>
 
 #include <gtest/gtest.h>
 
