@@ -29,17 +29,6 @@ constexpr Action kActions[] = {
      }},
 };
 
-std::wstring SystemDescription(HRESULT code) {
-  wchar_t* text = nullptr;
-  const DWORD length = FormatMessageW(
-      FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
-      nullptr, static_cast<DWORD>(code), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
-  std::wstring description(text == nullptr ? L"" : text, length);
-  LocalFree(text);
-  while (description.ends_with(L'\n') || description.ends_with(L'\r')) description.pop_back();
-  return description;
-}
-
 }  // namespace
 
 bool AccAction(std::int32_t mode, IAccessible* object, const VARIANT& child) {
@@ -52,7 +41,7 @@ bool AccAction(std::int32_t mode, IAccessible* object, const VARIANT& child) {
   const std::wstring name = AccName(object, child);
   const HRESULT result = action.perform(object, child);
   if (FAILED(result)) {
-    std::wstring description = SystemDescription(result);
+    std::wstring description = platform::SystemDescription(result);
     if (!name.empty()) description += L"\r\n" + name;
     platform::ReportError(L"AccAction - " + std::wstring(action.label), {result, description});
   }

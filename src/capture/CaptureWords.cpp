@@ -6,7 +6,7 @@
 #include <iterator>
 
 #include "extract/StringUtilities.h"
-#include "settings/ConfigText.h"
+#include "platform/Trim.h"
 
 namespace capture {
 namespace {
@@ -46,14 +46,14 @@ std::int32_t PointDistance(POINT p1, POINT p2) {
 }
 
 bool AsksForDebugMode(std::wstring_view commandLine) {
-  commandLine = settings::Trimmed(commandLine);
+  commandLine = platform::Trimmed(commandLine);
   const std::wstring_view first = commandLine.substr(0, commandLine.find(L' '));
   constexpr std::wstring_view kDebug = L"debug";
   return first.size() == kDebug.size() && extract::ContainsIgnoringCase(first, kDebug);
 }
 
 bool ForbidsAutoStart(std::wstring_view commandLine) {
-  return settings::Trimmed(commandLine) == L"no_start";
+  return platform::Trimmed(commandLine) == L"no_start";
 }
 
 std::wstring DecimalHandle(HWND hwnd) { return std::to_wstring(HandleValue(hwnd)); }

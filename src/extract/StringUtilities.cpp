@@ -2,6 +2,11 @@
 
 #include <windows.h>
 
+#include "platform/API_Shell.h"
+#include "platform/DiskFile.h"
+#include "platform/ErrorReport.h"
+#include "platform/Trim.h"
+
 namespace extract {
 
 std::wstring Replaced(std::wstring_view text, std::wstring_view pattern,
@@ -24,6 +29,19 @@ std::wstring WithCrLf(std::wstring_view text, std::wstring_view placeholder) {
 std::wstring UpToNul(std::wstring_view buffer) {
   const std::size_t end = buffer.find(L'\0');
   return end == buffer.npos ? std::wstring() : std::wstring(buffer.substr(0, end));
+}
+
+std::wstring CutDblQuot(std::wstring_view text) {
+  for (;;) {
+    text = platform::Trimmed(text);
+    if (!text.starts_with(L'"') || !text.ends_with(L'"')) return std::wstring(text);
+    if (text.size() < 2) throw platform::InvalidArgument();
+    text = text.substr(1, text.size() - 2);
+  }
+}
+
+bool FileExists(const std::wstring& path) {
+  return platform::IsNormalFile(CutDblQuot(API_Shell::AbsolutePath(path, {})));
 }
 
 bool ContainsIgnoringCase(std::wstring_view text, std::wstring_view part) {

@@ -1,6 +1,7 @@
 // Small text functions that readers and panes share.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,26 @@ std::wstring WithCrLf(std::wstring_view text, std::wstring_view placeholder);
 
 // The part of buffer before its first zero character; empty when it holds none.
 std::wstring UpToNul(std::wstring_view buffer);
+
+// text without blanks at its ends and enclosing double quotes, taken away again and again
+// (`  " "a" "  ` gives `a`). A text that is a single double quote throws InvalidArgument.
+std::wstring CutDblQuot(std::wstring_view text);
+
+// Whether path, resolved against the program's folder, names a normal file. Throws as CutDblQuot
+// does.
+bool FileExists(const std::wstring& path);
+
+// The larger, the smaller of two values; the first when they are equal.
+template <typename Value>
+const Value& MaxOf(const Value& a, const Value& b) {
+  return a < b ? b : a;
+}
+template <typename Value>
+const Value& MinOf(const Value& a, const Value& b) {
+  return b < a ? b : a;
+}
+
+constexpr bool IsPositive(std::int32_t n) { return n > 0; }
 
 // Whether text contains part, compared without regard to case.
 bool ContainsIgnoringCase(std::wstring_view text, std::wstring_view part);

@@ -15,6 +15,11 @@ std::wstring FolderPath(unsigned char folderId);
 // The folder that holds the program file, without a trailing backslash; a drive root is "C:".
 std::wstring ProgramFolder();
 
+// path as an absolute path against the folder base; an empty base means the program's folder. A
+// path in double quotes loses them; a result that contains a blank gets them. A path with a leading
+// quote only is reported in a message box titled "AbsolutePath" and returned unchanged.
+std::wstring AbsolutePath(const std::wstring& path, const std::wstring& base);
+
 // Starts "explorer.exe " followed by target in a normal window and does not wait. A failure is
 // not reported.
 void OpenWithExplorer(const std::wstring& target);

@@ -40,6 +40,32 @@ bool ShowMessage(const std::wstring& text, const std::wstring& title) {
   return true;
 }
 
+std::wstring SystemDescription(long number) {
+  wchar_t* text = nullptr;
+  const DWORD length = FormatMessageW(
+      FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
+      nullptr, static_cast<DWORD>(number), 0, reinterpret_cast<wchar_t*>(&text), 0, nullptr);
+  std::wstring description(text == nullptr ? L"" : text, length);
+  LocalFree(text);
+  while (description.ends_with(L'\n') || description.ends_with(L'\r')) description.pop_back();
+  return description;
+}
+
+NumberedError InvalidArgument() {
+  return {ERROR_INVALID_PARAMETER, SystemDescription(ERROR_INVALID_PARAMETER)};
+}
+
+void ReportCurrentError(std::wstring_view procedure) {
+  try {
+    throw;
+  } catch (const NumberedError& error) {
+    ReportError(procedure, error);
+  } catch (...) {
+    // The standard library fails for want of memory or for lengths beyond it.
+    ReportError(procedure, {ERROR_NOT_ENOUGH_MEMORY, SystemDescription(ERROR_NOT_ENOUGH_MEMORY)});
+  }
+}
+
 void ReportError(std::wstring_view procedure, const NumberedError& error) {
   ShowMessage(std::to_wstring(error.Number()) + L" " + error.Description(),
               std::wstring(procedure));

@@ -31,8 +31,17 @@ class NumberedError : public std::exception {
   std::wstring description_;
 };
 
+// Windows' error for an argument that cannot be used, ERROR_INVALID_PARAMETER.
+NumberedError InvalidArgument();
+
 // The program's common error report: number, a blank, description; titled with the name of the
 // procedure that failed.
 void ReportError(std::wstring_view procedure, const NumberedError& error);
+
+// The same for the exception that is being handled, whatever it is; for catch blocks.
+void ReportCurrentError(std::wstring_view procedure);
+
+// What the system says about one of its error numbers, without the line end.
+std::wstring SystemDescription(long number);
 
 }  // namespace platform

@@ -26,7 +26,26 @@ std::size_t PieceOf(std::string_view bytes) {
   return at;
 }
 
+constexpr UINT kJapanese = 932;
+
+UINT CountingCodePage() {
+  CPINFO system{};
+  return GetCPInfo(CP_ACP, &system) && system.MaxCharSize == 2 ? CP_ACP : kJapanese;
+}
+
 }  // namespace
+
+std::size_t DoubleByteLength(std::wstring_view text) {
+  const UINT codePage = CountingCodePage();
+  std::size_t length = 0;
+  while (!text.empty()) {
+    const std::size_t piece = PieceOf(text);
+    length += static_cast<std::size_t>(WideCharToMultiByte(
+        codePage, 0, text.data(), static_cast<int>(piece), nullptr, 0, nullptr, nullptr));
+    text.remove_prefix(piece);
+  }
+  return length;
+}
 
 std::string ToAnsi(std::wstring_view text) {
   std::string result;

@@ -3,9 +3,12 @@
 #include <algorithm>
 
 #include "platform/Rounding.h"
+#include "platform/Trim.h"
 
 namespace settings {
 namespace {
+
+using platform::Trimmed;
 
 bool IsDigit(wchar_t unit) { return unit >= L'0' && unit <= L'9'; }
 
@@ -88,12 +91,6 @@ std::int32_t LeadingNumber(std::wstring_view text) {
   }
   const std::int64_t total = whole * 4 + quarters;
   return platform::RoundedRatio(negative ? -total : total, 4);
-}
-
-std::wstring_view Trimmed(std::wstring_view text) {
-  const std::size_t first = text.find_first_not_of(L' ');
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(L' ') - first + 1);
 }
 
 void SetDefaults(const ScreenTwips& screen, ConfigValues& values) {

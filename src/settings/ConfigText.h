@@ -15,9 +15,6 @@ namespace settings {
 // gives 14). A text that does not begin with a number gives 0. Clamped to 32 bits.
 std::int32_t LeadingNumber(std::wstring_view text);
 
-// text without the blanks (U+0020) at both ends.
-std::wstring_view Trimmed(std::wstring_view text);
-
 // Sets every value that has a default; the others stay as they are.
 void SetDefaults(const ScreenTwips& screen, ConfigValues& values);
 

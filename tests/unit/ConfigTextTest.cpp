@@ -1,5 +1,7 @@
 #include "settings/ConfigText.h"
 
+#include "platform/Trim.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -60,6 +62,7 @@ INSTANTIATE_TEST_SUITE_P(
         NumberCase{L"-99999999999999999999999999999999", -2147483647 - 1}));
 
 TEST(TrimmedTest, TakesBlanksOnly) {
+  using platform::Trimmed;
   EXPECT_EQ(Trimmed(L"  a b  "), L"a b");
   EXPECT_EQ(Trimmed(L"   "), L"");
   EXPECT_EQ(Trimmed(L""), L"");

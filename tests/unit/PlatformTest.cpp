@@ -159,5 +159,62 @@ TEST(ShellTest, KnowsItsOwnFolder) {
   EXPECT_NE(GetFileAttributesW((folder + L"\\unit_tests.exe").c_str()), INVALID_FILE_ATTRIBUTES);
 }
 
+class AbsolutePathTest : public testing::Test {
+ protected:
+  AbsolutePathTest()
+      : before_(SetMessageBox([this](const std::wstring& text, const std::wstring& title) {
+          text_ = text;
+          title_ = title;
+        })) {}
+  ~AbsolutePathTest() override { SetMessageBox(before_); }
+
+  static std::wstring At(const std::wstring& path) {
+    return API_Shell::AbsolutePath(path, L"C:\\windows");
+  }
+
+  std::wstring text_;
+  std::wstring title_;
+  MessageBoxFunction before_;
+};
+
+TEST_F(AbsolutePathTest, JoinsWhatIsRelative) {
+  EXPECT_EQ(At(L"a.txt"), L"C:\\windows\\a.txt");
+  EXPECT_EQ(At(L" a.txt "), L"C:\\windows\\a.txt");
+  EXPECT_EQ(At(L".\\a.txt"), L"C:\\windows\\a.txt");
+  EXPECT_EQ(At(L"..\\a.txt"), L"C:\\a.txt");
+  EXPECT_EQ(At(L"x\\..\\y\\a.txt"), L"C:\\windows\\y\\a.txt");
+  EXPECT_EQ(At(L""), L"C:\\windows\\");
+}
+
+TEST_F(AbsolutePathTest, LeavesWhatIsAbsolute) {
+  EXPECT_EQ(At(L"D:\\a.txt"), L"D:\\a.txt");
+  EXPECT_EQ(At(L"\\\\server\\a.txt"), L"\\\\server\\a.txt");
+  // A drive without its backslash is a name like any other.
+  EXPECT_EQ(At(L"D:a.txt"), L"C:\\windows\\D:a.txt");
+}
+
+TEST_F(AbsolutePathTest, TakesTheProgramFolderWithoutABase) {
+  EXPECT_TRUE(API_Shell::AbsolutePath(L"a.txt", L"").ends_with(L"\\unit\\a.txt"));
+}
+
+TEST_F(AbsolutePathTest, ABaseThatIsNoFolderGetsNoBackslash) {
+  EXPECT_EQ(API_Shell::AbsolutePath(L"a.txt", L"Q:\\none"), L"Q:\\nonea.txt");
+}
+
+TEST_F(AbsolutePathTest, QuotesGoAndComeBackWhereABlankNeedsThem) {
+  EXPECT_EQ(At(L"\"a.txt\""), L"C:\\windows\\a.txt");
+  EXPECT_EQ(At(L"\"a b.txt\""), L"\"C:\\windows\\a b.txt\"");
+  EXPECT_EQ(At(L"a b.txt"), L"\"C:\\windows\\a b.txt\"");
+}
+
+TEST_F(AbsolutePathTest, AQuoteThatIsNotClosedIsReported) {
+  for (const wchar_t* const path : {L"\"a.txt", L"\"", L" \"a b"}) {
+    title_.clear();
+    EXPECT_EQ(At(path), path);
+    EXPECT_EQ(title_, L"AbsolutePath");
+    EXPECT_TRUE(text_.ends_with(L" 87"));
+  }
+}
+
 }  // namespace
 }  // namespace platform

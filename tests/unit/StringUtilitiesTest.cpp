@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/ErrorReport.h"
+
 namespace extract {
 namespace {
 
@@ -40,6 +42,49 @@ TEST(ContainsIgnoringCaseTest, FindsAPart) {
   EXPECT_FALSE(ContainsIgnoringCase(L"edit,DirectUIHWND", L"RichEdit20W"));
   EXPECT_TRUE(ContainsIgnoringCase(L"edit", L""));
   EXPECT_FALSE(ContainsIgnoringCase(L"", L"edit"));
+}
+
+TEST(CutDblQuotTest, PeelsBlanksAndQuotes) {
+  EXPECT_EQ(CutDblQuot(L"  \" \"a\" \"  "), L"a");
+  EXPECT_EQ(CutDblQuot(L"\"\""), L"");
+  EXPECT_EQ(CutDblQuot(L""), L"");
+  EXPECT_EQ(CutDblQuot(L"   "), L"");
+  EXPECT_EQ(CutDblQuot(L"\"a"), L"\"a");
+  EXPECT_EQ(CutDblQuot(L"a\""), L"a\"");
+  EXPECT_EQ(CutDblQuot(L"\"a\"b\""), L"a\"b");
+  EXPECT_EQ(CutDblQuot(L"\ta\t"), L"\ta\t");
+  EXPECT_EQ(CutDblQuot(L"　a　"), L"　a　");
+}
+
+TEST(CutDblQuotTest, ASingleQuoteIsInvalid) {
+  EXPECT_THROW(CutDblQuot(L"\""), platform::NumberedError);
+  EXPECT_THROW(CutDblQuot(L" \" "), platform::NumberedError);
+  EXPECT_THROW(CutDblQuot(L"\"\"\""), platform::NumberedError);
+}
+
+TEST(FileExistsTest, LooksBesideTheProgram) {
+  EXPECT_TRUE(FileExists(L"unit_tests.exe"));
+  EXPECT_TRUE(FileExists(L".\\unit_tests.exe"));
+  EXPECT_TRUE(FileExists(L" \"unit_tests.exe\" "));
+  EXPECT_FALSE(FileExists(L"no such file.exe"));
+  EXPECT_FALSE(FileExists(L"C:\\windows"));  // a folder
+  EXPECT_TRUE(FileExists(L"C:\\windows\\win.ini"));
+}
+
+TEST(FileExistsTest, LetsErrorsThrough) {
+  const auto before = platform::SetMessageBox([](const std::wstring&, const std::wstring&) {});
+  EXPECT_THROW(FileExists(L"\""), platform::NumberedError);
+  platform::SetMessageBox(before);
+}
+
+TEST(CompareTest, TakesAnyValue) {
+  EXPECT_EQ(MaxOf(2, 3), 3);
+  EXPECT_EQ(MinOf(2, 3), 2);
+  EXPECT_EQ(MaxOf(std::wstring(L"b"), std::wstring(L"a")), L"b");
+  EXPECT_EQ(MinOf(1.5, -1.5), -1.5);
+  EXPECT_FALSE(IsPositive(0));
+  EXPECT_TRUE(IsPositive(1));
+  EXPECT_FALSE(IsPositive(-1));
 }
 
 }  // namespace
