@@ -25,9 +25,11 @@ TTTOOLINFOW ToolFor(HWND owner, HWND control) {
 
 void ToolTips::Create(HWND owner, UINT dpi) {
   owner_ = owner;
+  // Not owned by it: a window with an owned topmost window is put behind that one instead of into
+  // the topmost band.
   window_ = platform::UniqueWindow(CreateWindowExW(
       WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0, 0,
-      owner, nullptr, GetModuleHandleW(nullptr), nullptr));
+      nullptr, nullptr, GetModuleHandleW(nullptr), nullptr));
   SendMessageW(window_.Get(), TTM_SETMAXTIPWIDTH, 0, static_cast<LPARAM>(kWidthAt96Dpi * dpi / 96));
 }
 

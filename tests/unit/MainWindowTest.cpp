@@ -32,16 +32,9 @@ BOOL CALLBACK FindById(HWND child, LPARAM context) {
   return FALSE;
 }
 
-struct TipSearch {
-  HWND owner;
-  HWND found;
-};
-
 BOOL CALLBACK FindTips(HWND candidate, LPARAM context) {
-  auto& search = *reinterpret_cast<TipSearch*>(context);
   if (Win32API_Window::MyGetClassName(candidate) != TOOLTIPS_CLASSW) return TRUE;
-  if (GetWindow(candidate, GW_OWNER) != search.owner) return TRUE;
-  search.found = candidate;
+  *reinterpret_cast<HWND*>(context) = candidate;
   return FALSE;
 }
 
@@ -62,15 +55,15 @@ class MainWindowTest : public testing::Test {
   }
 
   std::wstring Tip(int id) const {
-    TipSearch search{window_->Handle(), nullptr};
-    EnumThreadWindows(GetCurrentThreadId(), FindTips, reinterpret_cast<LPARAM>(&search));
+    HWND tips = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), FindTips, reinterpret_cast<LPARAM>(&tips));
     std::array<wchar_t, 1024> text{};
     TTTOOLINFOW tool{};
     tool.cbSize = TTTOOLINFOW_V1_SIZE;
     tool.hwnd = window_->Handle();
     tool.uId = reinterpret_cast<UINT_PTR>(Control(id));
     tool.lpszText = text.data();
-    SendMessageW(search.found, TTM_GETTEXTW, text.size(), reinterpret_cast<LPARAM>(&tool));
+    SendMessageW(tips, TTM_GETTEXTW, text.size(), reinterpret_cast<LPARAM>(&tool));
     return text.data();
   }
 
@@ -135,6 +128,14 @@ TEST_F(MainWindowTest, ANewDpiScalesEverything) {
   RECT inner{};
   GetClientRect(window_->Handle(), &inner);
   EXPECT_EQ(Place(chkAutoStop).right, inner.right);
+}
+
+TEST_F(MainWindowTest, StaysInFrontWhenTheSettingSaysSo) {
+  Load("disp top = 1\n");
+  EXPECT_NE(GetWindowLongW(window_->Handle(), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+  window_.reset();
+  Load("disp top = 0\n");
+  EXPECT_EQ(GetWindowLongW(window_->Handle(), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
 }
 
 TEST_F(MainWindowTest, TellsWhatTheButtonDoes) {
