@@ -5,20 +5,53 @@
 namespace ui {
 namespace {
 
-LRESULT CALLBACK FrameProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+// Whether the message is one that a control sends to its parent.
+bool IsFromControl(UINT message) {
   switch (message) {
     case WM_COMMAND:
     case WM_NOTIFY:
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN:
     case WM_CTLCOLOREDIT:
-      return SendMessageW(GetParent(hwnd), message, wParam, lParam);
+      return true;
     default:
-      return DefWindowProcW(hwnd, message, wParam, lParam);
+      return false;
   }
 }
 
-void RegisterFrameClass() {
+LRESULT CALLBACK FrameProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  if (IsFromControl(message)) return SendMessageW(GetParent(hwnd), message, wParam, lParam);
+  return DefWindowProcW(hwnd, message, wParam, lParam);
+}
+
+WNDCLASSEXW ButtonClass() {
+  WNDCLASSEXW button{};
+  button.cbSize = sizeof button;
+  GetClassInfoExW(nullptr, L"BUTTON", &button);
+  return button;
+}
+
+LRESULT CALLBACK GroupProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
+  static const WNDPROC kButtonProcedure = ButtonClass().lpfnWndProc;
+  if (IsFromControl(message)) return SendMessageW(GetParent(hwnd), message, wParam, lParam);
+  switch (message) {
+    case WM_ERASEBKGND: {
+      RECT whole{};
+      GetClientRect(hwnd, &whole);
+      FillRect(reinterpret_cast<HDC>(wParam), &whole, GetSysColorBrush(COLOR_BTNFACE));
+      return 1;
+    }
+    case WM_NCHITTEST:  // a group box lets the pointer through and would never show its tool tip
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_LBUTTONDBLCLK:
+      return DefWindowProcW(hwnd, message, wParam, lParam);
+    default:
+      return CallWindowProcW(kButtonProcedure, hwnd, message, wParam, lParam);
+  }
+}
+
+void RegisterFrameClasses() {
   const HINSTANCE instance = GetModuleHandleW(nullptr);
   WNDCLASSEXW frame{};
   frame.cbSize = sizeof frame;
@@ -29,9 +62,19 @@ void RegisterFrameClass() {
   frame.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
   frame.lpszClassName = kFrameClass;
   RegisterClassExW(&frame);
+
+  WNDCLASSEXW group = ButtonClass();
+  group.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
+  group.lpfnWndProc = GroupProcedure;
+  group.hInstance = instance;
+  group.lpszClassName = kGroupClass;
+  RegisterClassExW(&group);
 }
 
-bool IsFrame(const ControlRow& row) { return std::wstring_view(row.className) == kFrameClass; }
+bool IsFrame(const ControlRow& row) {
+  const std::wstring_view name = row.className;
+  return name == kFrameClass || name == kGroupClass;
+}
 
 platform::UniqueFont MessageFont(UINT dpi) {
   NONCLIENTMETRICSW metrics{};
@@ -43,7 +86,7 @@ platform::UniqueFont MessageFont(UINT dpi) {
 }  // namespace
 
 void ControlSet::Create(HWND window, std::span<const ControlRow> rows) {
-  RegisterFrameClass();
+  RegisterFrameClasses();
   rows_ = rows;
   for (const ControlRow& row : rows) {
     const HWND parent = row.parent == 0 ? window : windows_.at(row.parent);

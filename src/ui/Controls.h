@@ -15,6 +15,10 @@ namespace ui {
 // A container for other controls, WS_EX_CONTROLPARENT, that hands their notifications on.
 constexpr const wchar_t* kFrameClass = L"VelmoraFrame";
 
+// The same with a border and its text as a title: the system's group box, with its controls inside
+// instead of beside it, so that they are shown, hidden and moved together.
+constexpr const wchar_t* kGroupClass = L"VelmoraGroup";
+
 struct ControlRow {
   int id;
   int parent;  // the number of its frame; 0: the window itself

@@ -32,14 +32,15 @@ constexpr std::wstring_view kDebugMark = L" - debug";
 
 }  // namespace
 
-frmQuorvinFromPoint::frmQuorvinFromPoint(settings::Settings& settings,
-                                         capture::CaptureState& state, MainWindowPlan plan)
+frmQuorvinFromPoint::frmQuorvinFromPoint(settings::Settings& settings, capture::CaptureState& state,
+                                         MainWindowPlan plan)
     : settings_(settings),
       state_(state),
       plan_(std::move(plan)),
       face_(settings, state),
       view_(face_, settings),
-      config_(face_) {}
+      config_(face_),
+      setting_(settings, state, [this] { ApplyDisplaySettings(); }) {}
 
 frmQuorvinFromPoint::~frmQuorvinFromPoint() { platform::RemoveDialog(Handle()); }
 
@@ -124,8 +125,7 @@ LRESULT frmQuorvinFromPoint::HandleMessage(UINT message, WPARAM wParam, LPARAM l
     case WM_GETMINMAXINFO: {
       const TwipsScale& scale = face_.Scale();
       // Rounded up: the height in twips must not come out below the least.
-      const LONG least =
-          (kMinOuterHeight + scale.TwipsPerPixelY - 1) / scale.TwipsPerPixelY;
+      const LONG least = (kMinOuterHeight + scale.TwipsPerPixelY - 1) / scale.TwipsPerPixelY;
       reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {0, least};
       return 0;
     }
@@ -133,13 +133,13 @@ LRESULT frmQuorvinFromPoint::HandleMessage(UINT message, WPARAM wParam, LPARAM l
       OnDpiChanged(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
       return 0;
     case WM_ACTIVATE:
-      OnActivate(LOWORD(wParam) != WA_INACTIVE);
+      focus_.OnActivate(Handle(), LOWORD(wParam) != WA_INACTIVE, face_.Control(cmdGo));
       return 0;
     case WM_CTLCOLORSTATIC:
       return reinterpret_cast<LRESULT>(
           face_.PaintLabel(reinterpret_cast<HDC>(wParam), reinterpret_cast<HWND>(lParam)));
     case DM_GETDEFID:
-      return OnGetDefaultButton();
+      return DefaultButton();
     case kSplitterMessage:
       OnSplitter(wParam, static_cast<int>(lParam));
       return 0;
@@ -162,6 +162,7 @@ LRESULT frmQuorvinFromPoint::OnCommand(int id, int notification) {
   };
   static constexpr Reaction kReactions[] = {
       {cmdGo, BN_CLICKED, &frmQuorvinFromPoint::cmdGo_Click},
+      {cmdSetting, BN_CLICKED, &frmQuorvinFromPoint::cmdSetting_Click},
       {chkAutoStop, BN_CLICKED, &frmQuorvinFromPoint::chkAutoStop_Click},
       {chkDetail, BN_CLICKED, &frmQuorvinFromPoint::chkDetail_Click},
       {chkTurnBack, BN_CLICKED, &frmQuorvinFromPoint::chkTurnBack_Click},
@@ -204,30 +205,12 @@ void frmQuorvinFromPoint::OnTimer(CaptureTimer timer) {
   }
 }
 
-void frmQuorvinFromPoint::OnActivate(bool active) {
-  if (!active) {
-    const HWND focus = GetFocus();
-    if (IsChild(Handle(), focus)) lastFocus_ = focus;
-    return;
-  }
-  const bool usable = IsChild(Handle(), lastFocus_) && IsWindowVisible(lastFocus_);
-  SetFocus(usable ? lastFocus_ : face_.Control(cmdGo));
-}
-
 void frmQuorvinFromPoint::OnDpiChanged(UINT dpi, const RECT& suggested) {
   face_.ApplyDpi(dpi);
   // While the saved placement is being applied the window stays where that puts it.
   if (face_.IsLayoutHeld()) return;
   SetWindowPos(Handle(), nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-LRESULT frmQuorvinFromPoint::OnGetDefaultButton() const {
-  // Enter presses the button that has the focus, and nothing elsewhere.
-  const HWND focus = GetFocus();
-  const LRESULT code = SendMessageW(focus, WM_GETDLGCODE, 0, 0);
-  if ((code & (DLGC_DEFPUSHBUTTON | DLGC_UNDEFPUSHBUTTON)) == 0) return 0;
-  return MAKELRESULT(GetDlgCtrlID(focus), DC_HASDEFID);
 }
 
 void frmQuorvinFromPoint::OnSplitter(WPARAM event, int yPixels) {
@@ -266,6 +249,8 @@ void frmQuorvinFromPoint::cmdGo_Click() {
     state_.CaptureRunning = false;
   }
 }
+
+void frmQuorvinFromPoint::cmdSetting_Click() { setting_.Show(Handle()); }
 
 void frmQuorvinFromPoint::chkAutoStop_Click() {
   settings_.autoStop = BoxValue(face_.Control(chkAutoStop));
@@ -322,9 +307,7 @@ void frmQuorvinFromPoint::Help_Url_Click() {
   API_Shell::OpenWithExplorer(HelpAddress(plan_.folder));
 }
 
-void frmQuorvinFromPoint::MyUrl_Click() {
-  API_Shell::OpenWithExplorer(HomeAddress(plan_.folder));
-}
+void frmQuorvinFromPoint::MyUrl_Click() { API_Shell::OpenWithExplorer(HomeAddress(plan_.folder)); }
 
 void frmQuorvinFromPoint::SaveConfig() {
   settings::SaveConfig(settings::ConfigPath(plan_.folder), config_, settings_);

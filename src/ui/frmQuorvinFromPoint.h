@@ -9,17 +9,19 @@
 #include "capture/CaptureState.h"
 #include "capture/CaptureSystem.h"
 #include "settings/Settings.h"
+#include "ui/DialogKeys.h"
 #include "ui/MainWindowConfig.h"
 #include "ui/MainWindowFace.h"
 #include "ui/MainWindowView.h"
 #include "ui/StartUp.h"
 #include "ui/Window.h"
+#include "ui/frmSetting.h"
 
 namespace ui {
 
 struct MainWindowPlan {
   std::wstring folder;       // where Conf.txt and the help page are
-  std::wstring commandLine;      // what follows the program's name
+  std::wstring commandLine;  // what follows the program's name
   std::function<void()> endProgram;
 };
 
@@ -51,13 +53,12 @@ class frmQuorvinFromPoint : public Window, private StartUpSteps {
   LRESULT OnCommand(int id, int notification);
   LRESULT OnNotify(const NMHDR& header);
   void OnTimer(capture::CaptureTimer timer);
-  void OnActivate(bool active);
   void OnDpiChanged(UINT dpi, const RECT& suggested);
   void OnSplitter(WPARAM event, int yPixels);
-  LRESULT OnGetDefaultButton() const;
 
   // Controls.
   void cmdGo_Click();
+  void cmdSetting_Click();
   void chkAutoStop_Click();
   void chkDetail_Click();
   void chkTurnBack_Click();
@@ -83,7 +84,8 @@ class frmQuorvinFromPoint : public Window, private StartUpSteps {
   MainWindowConfig config_;
   std::unique_ptr<capture::CaptureSystem> system_;
   std::unique_ptr<capture::CaptureLoop> loop_;
-  HWND lastFocus_ = nullptr;
+  frmSetting setting_;
+  FocusMemory focus_;
   bool SplitterMoving_ = false;
 };
 

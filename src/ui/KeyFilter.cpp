@@ -1,0 +1,65 @@
+#include "ui/KeyFilter.h"
+
+#include <commctrl.h>
+#include <imm.h>
+
+namespace ui {
+namespace {
+
+constexpr UINT_PTR kSubclass = 1;
+constexpr wchar_t kBackspace = L'\b';
+
+bool IsListOpen(HWND box) {
+  return SendMessageW(GetParent(box), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
+}
+
+bool Discards(HWND box, Typing typing, UINT message, WPARAM wParam) {
+  switch (message) {
+    case WM_CHAR:
+      return !Accepts(typing, static_cast<wchar_t>(wParam));
+    case WM_KEYDOWN:
+      // An open list is worked with the same keys; without them a keyboard user could not choose.
+      return typing == Typing::Nothing && !IsListOpen(box);
+    case WM_PASTE:
+    case WM_CUT:
+    case WM_CLEAR:
+    case WM_UNDO:
+    case EM_UNDO:
+    case WM_CONTEXTMENU:
+      return typing == Typing::Nothing;
+    default:
+      return false;
+  }
+}
+
+LRESULT CALLBACK BoxProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                              DWORD_PTR typing) noexcept {
+  if (Discards(box, static_cast<Typing>(typing), message, wParam)) return 0;
+  if (message == WM_NCDESTROY) RemoveWindowSubclass(box, BoxProcedure, kSubclass);
+  return DefSubclassProc(box, message, wParam, lParam);
+}
+
+}  // namespace
+
+bool Accepts(Typing typing, wchar_t character) {
+  if (typing == Typing::Anything) return true;
+  if (typing == Typing::Nothing) return false;
+  if (character == kBackspace || (character >= L'0' && character <= L'9')) return true;
+  return typing == Typing::DigitsAndMinus && character == L'-';
+}
+
+void FilterKeys(HWND box, Typing typing) {
+  if (typing == Typing::Anything) return;
+  // Without an input method nobody has to switch it off before typing a digit.
+  ImmAssociateContext(box, nullptr);
+  SetWindowSubclass(box, BoxProcedure, kSubclass, static_cast<DWORD_PTR>(typing));
+}
+
+HWND BoxOfList(HWND list) {
+  COMBOBOXINFO info{};
+  info.cbSize = sizeof info;
+  if (!GetComboBoxInfo(list, &info) || info.hwndItem == list) return nullptr;
+  return info.hwndItem;
+}
+
+}  // namespace ui
