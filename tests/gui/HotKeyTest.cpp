@@ -108,7 +108,8 @@ TEST_F(HotKeyTest, AltTBringsTheProgramToTheFront) {
   const Program program;
   PutInFront(fixture["edit"]);
   keys::Stroke({VK_MENU, 'T'});
-  EXPECT_TRUE(WaitFor("the program is in front", [&](std::string&) {
+  EXPECT_TRUE(WaitFor("the program is in front", [&](std::string& seen) {
+    seen = Control(GetForegroundWindow(), "").ClassName();
     return GetForegroundWindow() == program.Window().Handle();
   }));
   EXPECT_TRUE(WaitFor("the top pane has the focus",

@@ -12,6 +12,22 @@ void Send(WORD virtualKey, DWORD flags) {
   SendInput(1, &input, sizeof input);
 }
 
+bool IsDown(int virtualKey) { return GetAsyncKeyState(virtualKey) < 0; }
+
+// After a window has got the focus, the system soon takes back every modifier that it does not
+// find down on the real keyboard. Shift alone does no harm to any window, so it is tried until it
+// stays.
+void WaitUntilModifiersStay() {
+  constexpr int kTries = 20;
+  for (int attempt = 0; attempt < kTries; ++attempt) {
+    const Held shift(VK_SHIFT);
+    if (Stays(
+            "Shift is down", [](std::string&) { return IsDown(VK_SHIFT); }, Milliseconds(120))) {
+      return;
+    }
+  }
+}
+
 }  // namespace
 
 Held::Held(WORD virtualKey) : virtualKey_(virtualKey) { Send(virtualKey, 0); }
@@ -19,6 +35,7 @@ Held::Held(WORD virtualKey) : virtualKey_(virtualKey) { Send(virtualKey, 0); }
 Held::~Held() { Send(virtualKey_, KEYEVENTF_KEYUP); }
 
 void Stroke(std::initializer_list<WORD> virtualKeys, Milliseconds hold) {
+  if (virtualKeys.size() > 1) WaitUntilModifiersStay();
   for (const WORD key : virtualKeys) Send(key, 0);
   Last(hold);
   for (auto key = std::rbegin(virtualKeys); key != std::rend(virtualKeys); ++key) {
@@ -28,7 +45,7 @@ void Stroke(std::initializer_list<WORD> virtualKeys, Milliseconds hold) {
 
 void Reset() {
   for (int key = 1; key < 255; ++key) {
-    if (GetAsyncKeyState(key) < 0) Send(static_cast<WORD>(key), KEYEVENTF_KEYUP);
+    if (IsDown(key)) Send(static_cast<WORD>(key), KEYEVENTF_KEYUP);
   }
 }
 

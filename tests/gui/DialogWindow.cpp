@@ -1,0 +1,79 @@
+#include "DialogWindow.h"
+
+#include <stdexcept>
+
+#include "driver/Pointer.h"
+#include "driver/Text.h"
+#include "driver/Windows.h"
+#include "ui/ControlIds.h"
+
+namespace gui {
+
+DialogWindow::DialogWindow(const Program& program, std::string_view className)
+    : className_(className), window_(WaitForWindow(program.Process(), className)) {}
+
+Control DialogWindow::operator[](int id) const {
+  for (HWND window : Descendants(window_)) {
+    if (GetDlgCtrlID(window) == id) return {window, "control " + std::to_string(id)};
+  }
+  throw std::runtime_error(className_ + " has no control " + std::to_string(id));
+}
+
+testing::AssertionResult DialogWindow::Closes() const {
+  return WaitFor(className_ + " is closed", [&](std::string&) { return !IsOpen(); });
+}
+
+void DialogWindow::Close() const { PostMessageW(window_, WM_CLOSE, 0, 0); }
+
+DialogWindow OpenSettings(const Program& program) {
+  program[ui::cmdSetting].PressButton();
+  return {program, "frmSetting"};
+}
+
+DialogWindow OpenHotKeys(const Program& program, const DialogWindow& settings) {
+  settings[ui::cmdHotKey].PressButton();
+  return {program, "frmOption"};
+}
+
+int ItemCount(const Control& list) {
+  return static_cast<int>(SendMessageW(list.Handle(), CB_GETCOUNT, 0, 0));
+}
+
+std::string Item(const Control& list, int index) {
+  // The wide message delivers wide text in another process too.
+  wchar_t text[128] = {};
+  SendMessageW(list.Handle(), CB_GETLBTEXT, static_cast<WPARAM>(index),
+               reinterpret_cast<LPARAM>(text));
+  return ToUtf8(text);
+}
+
+int ChosenIndex(const Control& list) {
+  return static_cast<int>(SendMessageW(list.Handle(), CB_GETCURSEL, 0, 0));
+}
+
+Control BoxOf(const Control& list) {
+  COMBOBOXINFO info = {};
+  info.cbSize = sizeof info;
+  GetComboBoxInfo(list.Handle(), &info);
+  if (info.hwndItem == nullptr) return list;
+  return {info.hwndItem, "the box of the list"};
+}
+
+void Choose(const Control& list, int index) {
+  COMBOBOXINFO info = {};
+  info.cbSize = sizeof info;
+  GetComboBoxInfo(list.Handle(), &info);
+  const RECT at = list.Rectangle();
+  pointer::Click({at.right - 8, (at.top + at.bottom) / 2});
+  const Control opened(info.hwndList, "the open list");
+  Require(WaitFor("the list is open", [&](std::string&) { return opened.IsVisible(); }));
+  RECT item = {};
+  SendMessageW(opened.Handle(), LB_GETITEMRECT, static_cast<WPARAM>(index),
+               reinterpret_cast<LPARAM>(&item));
+  POINT point = {(item.left + item.right) / 2, (item.top + item.bottom) / 2};
+  ClientToScreen(opened.Handle(), &point);
+  pointer::Click(point);
+  Require(WaitFor("the list is closed", [&](std::string&) { return !opened.IsVisible(); }));
+}
+
+}  // namespace gui
