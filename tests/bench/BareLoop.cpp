@@ -1,0 +1,95 @@
+// The yardstick for the processor time: a window that makes the program's system calls and
+// nothing else. The first word of the command line names what it imitates:
+//   idle     a timer looks at the hot key, at T and at A
+//   capture  a loop sleeps, pumps messages and looks at the hot key, and a timer asks for the
+//            pointer and the window under it
+#include <windows.h>
+
+#include <cwchar>
+#include <initializer_list>
+
+namespace {
+
+constexpr wchar_t kClass[] = L"BenchBareLoop";
+constexpr UINT_PTR kIdleTimer = 1;
+constexpr UINT_PTR kSampleTimer = 2;
+
+bool PollIdleKeys() {
+  bool pressed = false;
+  for (const int key : {VK_ESCAPE, static_cast<int>('T'), static_cast<int>('A')}) {
+    if ((GetAsyncKeyState(key) & 1) != 0) pressed = true;
+  }
+  return pressed;
+}
+
+HWND SamplePointer() {
+  POINT point = {};
+  GetCursorPos(&point);
+  return WindowFromPoint(point);
+}
+
+LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_TIMER:
+      if (wParam == kIdleTimer) PollIdleKeys();
+      if (wParam == kSampleTimer) SamplePointer();
+      return 0;
+    case WM_DESTROY:
+      PostQuitMessage(0);
+      return 0;
+    default:
+      return DefWindowProcW(window, message, wParam, lParam);
+  }
+}
+
+// False once the program shall end.
+bool Pump() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    if (message.message == WM_QUIT) return false;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  return true;
+}
+
+void RunIdle(HWND window) {
+  SetTimer(window, kIdleTimer, 5, nullptr);
+  MSG message;
+  while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+}
+
+void RunCapture(HWND window) {
+  SetTimer(window, kSampleTimer, 10, nullptr);
+  DWORD last = 0;
+  do {
+    Sleep(10);
+    if (!Pump()) return;
+    last = GetTickCount();
+    if ((GetAsyncKeyState(VK_ESCAPE) & 1) != 0) last = 0;
+  } while (Pump() && last != 1);
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t* words, int) {
+  WNDCLASSEXW windowClass = {};
+  windowClass.cbSize = sizeof windowClass;
+  windowClass.lpfnWndProc = Procedure;
+  windowClass.hInstance = instance;
+  windowClass.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
+  windowClass.lpszClassName = kClass;
+  RegisterClassExW(&windowClass);
+  HWND window = CreateWindowExW(0, kClass, L"", WS_OVERLAPPEDWINDOW, 100, 341, 384, 427, nullptr,
+                                nullptr, instance, nullptr);
+  ShowWindow(window, SW_SHOWNORMAL);
+  if (std::wcscmp(words, L"capture") == 0) {
+    RunCapture(window);
+  } else {
+    RunIdle(window);
+  }
+  return 0;
+}

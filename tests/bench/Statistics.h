@@ -1,0 +1,28 @@
+// From pairs of measurements to one row of the bench.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace bench {
+
+// The program and its yardstick, measured at the same time or one right after the other, so that
+// whatever else the machine does falls on both.
+struct Pair {
+  double program;
+  double yardstick;
+};
+
+struct Summary {
+  double ratio;   // the median of the pairs' ratios
+  double median;  // the median of the program's figures
+  double spread;  // the distance between the quartiles of the pairs' ratios
+};
+
+// pairs must not be empty.
+Summary Summarise(const std::vector<Pair>& pairs);
+
+// name, ratio, limit, median, spread, separated by TABs.
+std::string RowText(const std::string& name, double limit, const Summary& summary);
+
+}  // namespace bench
