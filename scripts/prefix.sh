@@ -26,6 +26,10 @@ rm -rf "$WINEPREFIX"
 mkdir -p "$WINEPREFIX"
 wine wineboot --init </dev/null >/dev/null 2>&1
 
+# Wine does not look for its own fonts where Debian puts them: Marlett draws the buttons of captions,
+# Tahoma is the dialogs' font.
+ln -s /usr/share/wine/fonts/{marlett,tahoma,tahomabd}.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
+
 # Managed=N: captions and borders belong to their windows, which no window manager draws here.
 # ShowCrashDialog=0: a crash ends the program instead of waiting for a click.
 # Replacements: dialogs ask for fonts that only Windows has; all of them must show Japanese.
