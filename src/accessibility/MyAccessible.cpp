@@ -23,4 +23,16 @@ std::wstring AccName(IAccessible* object, const VARIANT& child) {
   return name.Text();
 }
 
+std::wstring AccValue(IAccessible* object, const VARIANT& child) {
+  platform::UniqueBstr value;
+  if (FAILED(object->get_accValue(child, value.Receive()))) return {};
+  return value.Text();
+}
+
+std::wstring AccNameOfWindow(HWND hwnd) {
+  const AccessiblePtr object = GetAccessibleObj(hwnd);
+  const platform::UniqueVariant self(CHILDID_SELF);
+  return object ? AccName(object.Get(), self.Get()) : std::wstring();
+}
+
 }  // namespace MyAccessible

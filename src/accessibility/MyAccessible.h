@@ -30,4 +30,10 @@ bool GetAccessibleObjAt(POINT point, ObjectAndChild& found);
 // The member accName of child.
 std::wstring AccName(IAccessible* object, const VARIANT& child);
 
+// The member accValue of child.
+std::wstring AccValue(IAccessible* object, const VARIANT& child);
+
+// accName of the window's own accessible object; empty when there is none.
+std::wstring AccNameOfWindow(HWND hwnd);
+
 }  // namespace MyAccessible

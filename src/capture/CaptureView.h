@@ -22,6 +22,7 @@ enum class ViewText {
   txtWin3,
   txtCount,
   txtStatus,
+  lblTextKind,
   TopPane,
   BottomPane,
 };

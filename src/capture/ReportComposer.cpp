@@ -1,12 +1,8 @@
 #include "capture/ReportComposer.h"
 
-#include <string>
-
 #include "capture/CaptureWords.h"
 #include "capture/OutputDelivery.h"
-#include "capture/WindowInformation.h"
 #include "extract/StringUtilities.h"
-#include "extract/Win32API_Window.h"
 
 namespace capture {
 namespace {
@@ -14,35 +10,131 @@ namespace {
 // Stands for CR LF while lone line feeds are replaced.
 constexpr std::wstring_view kLineMark = L"\x01";
 
-void ClearSlots(CaptureState& state) {
-  for (std::wstring& text : state.TopTexts) text.clear();
-  for (std::wstring& text : state.BottomTexts) text.clear();
-}
+// One report from its first step to its last.
+class Report {
+ public:
+  Report(const CaptureContext& context, ReportReaders& readers)
+      : context_(context),
+        readers_(readers),
+        // Readers pump, and the pump lets the target move on; this report stays where it began.
+        target_(context.state.TargetWindow),
+        point_(context.state.CapturePoint) {}
+
+  void Compose() {
+    ShowHandle();
+    ReadWindow();
+    ClearSlots();
+    ReadTextAtPoint();
+    const Category category = CategoryOf(window_.className);
+    if (category == Category::Ie) {
+      ReadDocument();
+    } else {
+      ReadList(category);
+    }
+    ShowWindowInformation();
+    ReadAccessible();
+    ReadStatus();
+  }
+
+ private:
+  CaptureState& State() const { return context_.state; }
+  const settings::Settings& Set() const { return context_.settings; }
+
+  void SetText(ViewText part, const std::wstring& text) const {
+    Attempt([&] { context_.view.SetText(part, text); });
+  }
+  void Redisplay() const {
+    Attempt([&] { RedisplayPanes(State(), Set(), context_.view); });
+  }
+
+  void ShowHandle() const {
+    Attempt([&] { context_.view.SetHandleTag(DecimalHandle(target_)); });
+    SetText(ViewText::txthWnd, ShownHandle(target_, Set().winHandle));
+  }
+
+  void ReadWindow() {
+    Attempt([&] { window_ = readers_.Facts(target_); });
+    SetText(ViewText::txtWin0, window_.className);
+  }
+
+  void ClearSlots() const {
+    for (std::wstring& text : State().TopTexts) text.clear();
+    for (std::wstring& text : State().BottomTexts) text.clear();
+    SetText(ViewText::txtCount, {});
+    Attempt([&] { context_.view.SetVisible(ViewText::txtCount, true); });
+  }
+
+  void ReadTextAtPoint() const {
+    std::wstring text;
+    std::wstring method;
+    Attempt([&] {
+      text = Set().fromHwnd == 1 ? readers_.NameOfWindow(target_)
+                                 : readers_.TextFromPoint(point_, method);
+    });
+    SetText(ViewText::txtWin3, text);
+    SetText(ViewText::lblTextKind, method);
+    State().TopTexts[2] = WithLineEnds(text);
+  }
+
+  // A page is marked as one also when its window gives no document.
+  void ReadDocument() const {
+    State().BottomTexts[0] = L"1";
+    Attempt([&] { context_.view.SetVisible(ViewText::txtCount, false); });
+  }
+
+  void ReadList(Category category) const {
+    std::wstring text;
+    std::wstring method;
+    platform::ReadSession session{
+        State().TargetWindow,
+        [this](const std::wstring& progress) { SetText(ViewText::txtCount, progress); },
+        [this] { context_.system.Pump(); },
+        [this] { return State().CaptureRunning; },
+    };
+    Attempt([&] { text = ReadByCategory(readers_, category, {target_, point_, session, method}); });
+    State().BottomTexts[1].clear();
+    State().BottomTexts[2] = text;
+    Redisplay();
+    Attempt([&] { context_.system.Pump(); });
+  }
+
+  void ShowWindowInformation() const {
+    Attempt([&] {
+      State().BottomTexts[1] =
+          WindowInformationText(readers_.Information(window_), Set().winHandle);
+    });
+    SetText(ViewText::txtWin1, {});
+  }
+
+  void ReadAccessible() const {
+    AccessibleTexts texts;
+    Attempt([&] { texts = readers_.Accessible(Set().fromHwnd == 1 ? target_ : nullptr, point_); });
+    State().TopTexts[1] = texts.report;
+    SetText(ViewText::txtWin2, texts.name);
+    Redisplay();
+  }
+
+  void ReadStatus() const {
+    if (Set().hint != 0) return;
+    SetText(ViewText::txtStatus, {});
+    std::wstring text;
+    Attempt([&] { text = readers_.StatusText(target_, window_.className, window_.title); });
+    SetText(ViewText::txtStatus, text);
+  }
+
+  const CaptureContext& context_;
+  ReportReaders& readers_;
+  const HWND target_;
+  const POINT point_;
+  WindowFacts window_;
+};
 
 }  // namespace
 
-void ComposeReport(const CaptureContext& context) {
-  auto& [state, settings, view, system] = context;
-  // The pump lets the target change; this report stays with the window that it began with.
-  const HWND target = state.TargetWindow;
+std::wstring WithLineEnds(std::wstring_view text) { return extract::WithCrLf(text, kLineMark); }
 
-  Attempt([&] { view.SetHandleTag(DecimalHandle(target)); });
-  Attempt([&] { view.SetText(ViewText::txthWnd, ShownHandle(target, settings.winHandle)); });
-  WindowInformation information;
-  Attempt([&] { information = ReadWindowInformation(target); });
-  Attempt([&] { view.SetText(ViewText::txtWin0, information.window.className); });
-  ClearSlots(state);
-  Attempt([&] { view.SetText(ViewText::txtCount, {}); });
-  Attempt([&] { view.SetVisible(ViewText::txtCount, true); });
-
-  std::wstring text;
-  Attempt([&] { text = Win32API_Window::WindowTextByMessage(target); });
-  Attempt([&] { view.SetText(ViewText::txtWin3, text); });
-  state.TopTexts[2] = extract::WithCrLf(text, kLineMark);
-  Attempt([&] { state.BottomTexts[1] = WindowInformationText(information, settings.winHandle); });
-  Attempt([&] { view.SetText(ViewText::txtWin1, {}); });
-  Attempt([&] { view.SetText(ViewText::txtWin2, information.window.title); });
-  Attempt([&] { RedisplayPanes(state, settings, view); });
+void ComposeReport(const CaptureContext& context, ReportReaders& readers) {
+  Report(context, readers).Compose();
 }
 
 }  // namespace capture

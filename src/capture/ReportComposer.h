@@ -1,12 +1,19 @@
 // Makes one report: reads the target window and fills the boxes, the text slots and the panes.
 #pragma once
 
+#include <string>
+#include <string_view>
+
 #include "capture/CaptureContext.h"
+#include "capture/ReportReaders.h"
 
 namespace capture {
 
-// Reports on the target window. Every step that fails leaves what it would have filled empty, and
-// the report goes on.
-void ComposeReport(const CaptureContext& context);
+// text with every lone LF turned into CR LF. A character 0x01 in it becomes CR LF too.
+std::wstring WithLineEnds(std::wstring_view text);
+
+// Reports on the target window. A step that fails leaves what it would have filled empty, and the
+// report goes on.
+void ComposeReport(const CaptureContext& context, ReportReaders& readers);
 
 }  // namespace capture

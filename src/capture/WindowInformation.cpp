@@ -56,9 +56,10 @@ WindowFacts ReadWindowFacts(HWND hwnd) {
   return facts;
 }
 
-WindowInformation ReadWindowInformation(HWND hwnd) {
+WindowInformation ReadWindowInformation(const WindowFacts& window) {
+  const HWND hwnd = window.hwnd;
   WindowInformation information;
-  information.window = ReadWindowFacts(hwnd);
+  information.window = window;
   if (const HWND owner = GetWindow(hwnd, GW_OWNER)) information.owner = ReadWindowFacts(owner);
   for (HWND parent = GetParent(hwnd); parent != nullptr; parent = GetParent(parent)) {
     information.ancestors.push_back(ReadWindowFacts(parent));

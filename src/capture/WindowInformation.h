@@ -27,7 +27,7 @@ struct WindowInformation {
 WindowFacts ReadWindowFacts(HWND hwnd);
 
 // The window with its owner, its ancestors and its visible descendants.
-WindowInformation ReadWindowInformation(HWND hwnd);
+WindowInformation ReadWindowInformation(const WindowFacts& window);
 
 // The block of text, its lines ending with CR LF. winHandle is the setting "win handle": "hex"
 // changes the handles of the children's lines only.

@@ -38,12 +38,33 @@ constexpr std::wstring_view kTooltipClasses[] = {L"tooltip", L"vbbubblert6"};
 }  // namespace
 
 std::wstring MyGetControlText(HWND hwnd) {
-  if (const auto object = MyAccessible::GetAccessibleObj(hwnd)) {
-    const platform::UniqueVariant self(CHILDID_SELF);
-    const std::wstring name = MyAccessible::AccName(object.Get(), self.Get());
-    if (!name.empty()) return name;
+  const std::wstring name = MyAccessible::AccNameOfWindow(hwnd);
+  return name.empty() ? Win32API_Window::WindowTextByMessage(hwnd) : name;
+}
+
+std::wstring MyGetEditItem(HWND hwnd, std::wstring& method) {
+  const std::wstring text = Win32API_Window::WindowTextByMessage(hwnd);
+  if (!text.empty()) method = L"WM_GETTEXT";
+  return text;
+}
+
+std::wstring GetChildText(HWND hwnd, std::wstring& method) {
+  std::wstring result = MyGetControlText(hwnd);
+  for (HWND child = GetWindow(hwnd, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    const std::wstring text = MyGetControlText(child);
+    if (!text.empty()) result += text + L"\r\n";
   }
-  return Win32API_Window::WindowTextByMessage(hwnd);
+  method = L"Accessible";
+  return result;
+}
+
+std::wstring GetOther(HWND hwnd, const ChildrenListing& listing, std::wstring& method) {
+  // Also when it says that it failed: that is what the user sees then.
+  std::wstring names = listing(hwnd);
+  if (names.empty()) return GetChildText(hwnd, method);
+  method = L"Accessible";
+  return names;
 }
 
 HWND GethWndTooltips() {

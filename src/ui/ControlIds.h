@@ -30,6 +30,7 @@ enum ControlId : int {
   txtWin1 = 1025,
   txtWin2 = 1026,
   txtWin3 = 1027,
+  lblTextKind = 1028,
 
   // Main window: splitter.
   imgSplitter = 1031,

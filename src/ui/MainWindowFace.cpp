@@ -1,5 +1,9 @@
 #include "ui/MainWindowFace.h"
 
+#include <algorithm>
+#include <iterator>
+
+#include "extract/TextCount.h"
 #include "ui/ControlIds.h"
 #include "ui/EditBehaviour.h"
 #include "ui/MainWindowControls.h"
@@ -14,13 +18,6 @@ constexpr int kBoxes[] = {txtWinTextT0, txtWinTextT1, txtWinTextB0, txtWinTextB1
                           txthWnd,      txtStatus,    txtCount,     txtWin0,
                           txtWin1,      txtWin2,      txtWin3};
 
-bool IsBox(int id) {
-  for (const int box : kBoxes) {
-    if (box == id) return true;
-  }
-  return false;
-}
-
 }  // namespace
 
 MainWindowFace::MainWindowFace(settings::Settings& settings, capture::CaptureState& state)
@@ -34,6 +31,13 @@ void MainWindowFace::Create(HWND window) {
   const UINT dpi = GetDpiForWindow(window);
   tips_.Create(window, dpi);
   ApplyDpi(dpi);
+}
+
+bool MainWindowFace::IsBox(int id) { return std::ranges::find(kBoxes, id) != std::end(kBoxes); }
+
+void MainWindowFace::SetPaneText(HWND pane, const std::wstring& text) {
+  SetWindowTextW(pane, text.c_str());
+  tips_.Set(pane, extract::GetTextCountInfo(text));
 }
 
 HWND MainWindowFace::TopPane() const { return Control(TopPaneId(settings_.turnBack)); }
@@ -99,8 +103,8 @@ void MainWindowFace::TurnPanesBack(std::int32_t member) {
   const HWND oldBottom = BottomPane();
   settings_.turnBack = member;
   if (TopPane() != oldTop) {
-    SetWindowTextW(TopPane(), WindowText(oldTop).c_str());
-    SetWindowTextW(BottomPane(), WindowText(oldBottom).c_str());
+    SetPaneText(TopPane(), WindowText(oldTop));
+    SetPaneText(BottomPane(), WindowText(oldBottom));
   }
   Form_Resize();
 }

@@ -21,6 +21,9 @@ class MainWindowFace {
  public:
   MainWindowFace(settings::Settings& settings, capture::CaptureState& state);
 
+  // Whether id is one of the text boxes, panes included.
+  static bool IsBox(int id);
+
   // Creates everything in window, at the window's DPI.
   void Create(HWND window);
 
@@ -35,6 +38,9 @@ class MainWindowFace {
   // The members of the pane pairs that the setting "turn back" has in use.
   HWND TopPane() const;
   HWND BottomPane() const;
+
+  // Puts text into a pane and its character counts into the pane's tool tip.
+  void SetPaneText(HWND pane, const std::wstring& text);
 
   // Lays the window out anew; does nothing while the layout is held back or the window is
   // minimised.

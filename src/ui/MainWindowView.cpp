@@ -34,6 +34,8 @@ HWND MainWindowView::ControlOf(ViewText part) const {
       return face_.Control(txtCount);
     case ViewText::txtStatus:
       return face_.Control(txtStatus);
+    case ViewText::lblTextKind:
+      return face_.Control(lblTextKind);
     case ViewText::TopPane:
       return face_.TopPane();
     case ViewText::BottomPane:
@@ -50,7 +52,11 @@ std::wstring MainWindowView::Text(ViewText part) const {
 void MainWindowView::SetText(ViewText part, const std::wstring& text) {
   std::wstring& shown = shown_[part];
   if (shown == text) return;
-  SetWindowTextW(ControlOf(part), text.c_str());
+  if (part == ViewText::TopPane || part == ViewText::BottomPane) {
+    face_.SetPaneText(ControlOf(part), text);
+  } else {
+    SetWindowTextW(ControlOf(part), text.c_str());
+  }
   shown = text;
 }
 

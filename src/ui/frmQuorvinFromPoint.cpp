@@ -9,6 +9,7 @@
 #include "capture/OutputDelivery.h"
 #include "capture/PointerSampling.h"
 #include "capture/ReportComposer.h"
+#include "capture/SystemReaders.h"
 #include "extract/StringUtilities.h"
 #include "extract/Win32API_Window.h"
 #include "platform/API_Shell.h"
@@ -54,8 +55,9 @@ bool frmQuorvinFromPoint::Load() {
   if (!Create(plan)) return false;
   platform::AddDialog(Handle());
   system_ = capture::MakeCaptureSystem(Handle());
+  readers_ = capture::MakeSystemReaders(settings_);
   loop_ = std::make_unique<capture::CaptureLoop>(
-      Context(), [this] { capture::ComposeReport(Context()); }, plan_.commandLine);
+      Context(), [this] { capture::ComposeReport(Context(), *readers_); }, plan_.commandLine);
   Form_Load(*this, settings_, plan_.commandLine);
   return true;
 }
@@ -168,14 +170,27 @@ LRESULT frmQuorvinFromPoint::OnCommand(int id, int notification) {
       {chkTurnBack, BN_CLICKED, &frmQuorvinFromPoint::chkTurnBack_Click},
       {lblMousePos, STN_DBLCLK, &frmQuorvinFromPoint::lblMousePos_DblClick},
       {lblMsg, STN_DBLCLK, &frmQuorvinFromPoint::lblMsg_DblClick},
-      {txthWnd, kBoxDoubleClick, &frmQuorvinFromPoint::txthWnd_DblClick},
   };
+  if (MainWindowFace::IsBox(id)) {
+    if (notification == kBoxClick) OnBoxClick(id);
+    if (notification == kBoxDoubleClick) OnBoxDoubleClick(id);
+  }
   for (const Reaction& reaction : kReactions) {
     if (reaction.id != id || reaction.notification != notification) continue;
     (this->*reaction.handler)();
-    return 1;
   }
   return 0;
+}
+
+void frmQuorvinFromPoint::OnBoxClick(int id) {
+  if (settings_.clipboard != 1) return;
+  system_->PutOnClipboard(WindowText(face_.Control(id)));
+  view_.SetText(ViewText::lblMsg, L"テキスト転送完了！");
+}
+
+void frmQuorvinFromPoint::OnBoxDoubleClick(int id) {
+  if (id == txthWnd) txthWnd_DblClick();
+  SendMessageW(face_.Control(id), EM_SETSEL, 0, -1);
 }
 
 LRESULT frmQuorvinFromPoint::OnNotify(const NMHDR& header) {

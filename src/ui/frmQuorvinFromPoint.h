@@ -8,6 +8,7 @@
 #include "capture/CaptureLoop.h"
 #include "capture/CaptureState.h"
 #include "capture/CaptureSystem.h"
+#include "capture/ReportReaders.h"
 #include "settings/Settings.h"
 #include "ui/DialogKeys.h"
 #include "ui/MainWindowConfig.h"
@@ -52,6 +53,8 @@ class frmQuorvinFromPoint : public Window, private StartUpSteps {
   // Messages.
   LRESULT OnCommand(int id, int notification);
   LRESULT OnNotify(const NMHDR& header);
+  void OnBoxClick(int id);
+  void OnBoxDoubleClick(int id);
   void OnTimer(capture::CaptureTimer timer);
   void OnDpiChanged(UINT dpi, const RECT& suggested);
   void OnSplitter(WPARAM event, int yPixels);
@@ -83,6 +86,7 @@ class frmQuorvinFromPoint : public Window, private StartUpSteps {
   MainWindowView view_;
   MainWindowConfig config_;
   std::unique_ptr<capture::CaptureSystem> system_;
+  std::unique_ptr<capture::ReportReaders> readers_;
   std::unique_ptr<capture::CaptureLoop> loop_;
   frmSetting setting_;
   FocusMemory focus_;

@@ -67,7 +67,7 @@ TEST(WindowInformationTextTest, ATopLevelWindowHasNeitherOwnerNorAncestors) {
 
 TEST(ReadWindowInformationTest, AWindowThatIsGoneHasEmptyFacts) {
   for (const HWND gone : {static_cast<HWND>(nullptr), WindowNumber(0x7FFF0001)}) {
-    const WindowInformation information = ReadWindowInformation(gone);
+    const WindowInformation information = ReadWindowInformation(ReadWindowFacts(gone));
     EXPECT_EQ(information.window.className, L"");
     EXPECT_EQ(information.window.title, L"");
     EXPECT_EQ(information.window.place.right, 0);

@@ -1,0 +1,65 @@
+// Everything that a report reads from other programs. Tests put a recorder in its place.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+#include "capture/ControlCategory.h"
+#include "capture/WindowInformation.h"
+#include "platform/ReadSession.h"
+#include "settings/Settings.h"
+
+namespace capture {
+
+// What a category's reader works on.
+struct CategoryRead {
+  HWND hwnd;    // noted when the report began
+  POINT point;  // likewise, in screen pixels
+  platform::ReadSession& session;
+  std::wstring& method;  // out: how the text was got
+};
+
+// The report on an accessible object, and its name.
+struct AccessibleTexts {
+  std::wstring report;
+  std::wstring name;
+};
+
+class ReportReaders {
+ public:
+  virtual ~ReportReaders() = default;
+
+  virtual WindowFacts Facts(HWND hwnd) = 0;
+  // These facts with what is around the window: owner, ancestors, visible descendants.
+  virtual WindowInformation Information(const WindowFacts& window) = 0;
+
+  // The text at the point: of the object there, or the window's own accessible name.
+  virtual std::wstring TextFromPoint(POINT point, std::wstring& method) = 0;
+  virtual std::wstring NameOfWindow(HWND hwnd) = 0;
+
+  // One a category.
+  virtual std::wstring MyGetEditItem(const CategoryRead& read) = 0;
+  virtual std::wstring MyGetListBoxItem(const CategoryRead& read) = 0;
+  virtual std::wstring MyGetComboBoxItem(const CategoryRead& read) = 0;
+  virtual std::wstring AccessibleChildren(const CategoryRead& read) = 0;
+  virtual std::wstring GetListViewItem(const CategoryRead& read) = 0;
+  virtual std::wstring AccessibleTree(const CategoryRead& read) = 0;
+  virtual std::wstring GetToolbarItem(const CategoryRead& read) = 0;
+  virtual std::wstring GetTabControlItem(const CategoryRead& read) = 0;
+  virtual std::wstring GetTooltipText(const CategoryRead& read) = 0;
+  virtual std::wstring GetOther(const CategoryRead& read) = 0;
+  virtual std::wstring GetChildText(const CategoryRead& read) = 0;
+
+  // The accessible object of the window hwnd, or, when that is null, at the point.
+  virtual AccessibleTexts Accessible(HWND hwnd, POINT point) = 0;
+
+  virtual std::wstring StatusText(HWND target, std::wstring_view className,
+                                  std::wstring_view title) = 0;
+};
+
+// The list text of a window of this category; empty for the categories that have no reader.
+std::wstring ReadByCategory(ReportReaders& readers, Category category, const CategoryRead& read);
+
+}  // namespace capture

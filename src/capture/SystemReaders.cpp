@@ -1,0 +1,93 @@
+#include "capture/SystemReaders.h"
+
+#include "accessibility/MyAccessible.h"
+#include "capture/StatusText.h"
+#include "extract/ControlText.h"
+#include "extract/PointText.h"
+#include "extract/Win32API_Window.h"
+
+namespace capture {
+namespace {
+
+struct ClassSearch {
+  std::wstring_view className;
+  std::vector<HWND> found;
+};
+
+BOOL CALLBACK AddIfOfClass(HWND hwnd, LPARAM context) noexcept {
+  auto& search = *reinterpret_cast<ClassSearch*>(context);
+  if (Win32API_Window::MyGetClassName(hwnd) == search.className) search.found.push_back(hwnd);
+  return TRUE;
+}
+
+class SystemStatusWindows : public StatusWindows {
+ public:
+  HWND TopParent(HWND hwnd) override { return Win32API_Window::GetTopParent(hwnd); }
+  HWND Foreground() override { return GetForegroundWindow(); }
+  std::vector<HWND> Descendants(HWND root, std::wstring_view className) override {
+    ClassSearch search{className, {}};
+    EnumChildWindows(root, AddIfOfClass, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+  }
+  std::wstring Title(HWND hwnd) override { return Win32API_Window::MyGetWindowText(hwnd); }
+  std::wstring Text(HWND hwnd) override { return extract::MyGetControlText(hwnd); }
+};
+
+class SystemReaders : public ReportReaders {
+ public:
+  explicit SystemReaders(const settings::Settings& settings) : settings_(settings) {}
+
+  WindowFacts Facts(HWND hwnd) override { return ReadWindowFacts(hwnd); }
+  WindowInformation Information(const WindowFacts& window) override {
+    return ReadWindowInformation(window);
+  }
+
+  std::wstring TextFromPoint(POINT point, std::wstring& method) override {
+    return extract::MyGetControlTextFromPoint(point.x, point.y, settings_.accValueText, false,
+                                              method);
+  }
+  std::wstring NameOfWindow(HWND hwnd) override { return MyAccessible::AccNameOfWindow(hwnd); }
+
+  std::wstring MyGetEditItem(const CategoryRead& read) override {
+    return extract::MyGetEditItem(read.hwnd, read.method);
+  }
+  std::wstring MyGetListBoxItem(const CategoryRead&) override { return {}; }
+  std::wstring MyGetComboBoxItem(const CategoryRead&) override { return {}; }
+  std::wstring AccessibleChildren(const CategoryRead&) override { return {}; }
+  std::wstring GetListViewItem(const CategoryRead&) override { return {}; }
+  std::wstring AccessibleTree(const CategoryRead&) override { return {}; }
+  std::wstring GetToolbarItem(const CategoryRead&) override { return {}; }
+  std::wstring GetTabControlItem(const CategoryRead&) override { return {}; }
+  std::wstring GetTooltipText(const CategoryRead&) override { return extract::GetTooltipText(); }
+  std::wstring GetOther(const CategoryRead& read) override {
+    return extract::GetOther(
+        read.hwnd, [&](HWND) { return AccessibleChildren(read); }, read.method);
+  }
+  std::wstring GetChildText(const CategoryRead& read) override {
+    return extract::GetChildText(read.hwnd, read.method);
+  }
+
+  AccessibleTexts Accessible(HWND hwnd, POINT point) override {
+    if (hwnd != nullptr) return {{}, MyAccessible::AccNameOfWindow(hwnd)};
+    MyAccessible::ObjectAndChild found;
+    if (!MyAccessible::GetAccessibleObjAt(point, found)) return {};
+    return {{}, MyAccessible::AccName(found.object.Get(), found.child.Get())};
+  }
+
+  std::wstring StatusText(HWND target, std::wstring_view className,
+                          std::wstring_view title) override {
+    SystemStatusWindows windows;
+    return FindStatusText(windows, target, className, title);
+  }
+
+ private:
+  const settings::Settings& settings_;
+};
+
+}  // namespace
+
+std::unique_ptr<ReportReaders> MakeSystemReaders(const settings::Settings& settings) {
+  return std::make_unique<SystemReaders>(settings);
+}
+
+}  // namespace capture

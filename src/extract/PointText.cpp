@@ -1,0 +1,92 @@
+#include "extract/PointText.h"
+
+#include "accessibility/MyAccessible.h"
+#include "extract/StringUtilities.h"
+#include "extract/Win32API_Window.h"
+
+namespace extract {
+namespace {
+
+constexpr std::wstring_view kDocumentClass = L"Internet Explorer_Server";
+
+bool EqualIgnoringCase(std::wstring_view a, std::wstring_view b) {
+  return a.size() == b.size() && ContainsIgnoringCase(a, b);
+}
+
+std::wstring ElementText(const ElementTexts& element, std::wstring& method) {
+  // A list item reports the value 0 although it has none.
+  const bool listItem = element.value == L"0" && EqualIgnoringCase(element.tagName, L"LI");
+  const bool inner = element.value.empty() || listItem;
+  method = inner ? L"InnerText" : L"Value";
+  return inner ? element.innerText : element.value;
+}
+
+class ScreenPoint : public PointSources {
+ public:
+  explicit ScreenPoint(POINT point) : point_(point), hwnd_(WindowFromPoint(point)) {}
+
+  std::wstring ClassName() override { return Win32API_Window::MyGetClassName(hwnd_); }
+  std::optional<ElementTexts> Element() override { return std::nullopt; }
+  std::wstring AccessibleValue() override {
+    return Found() ? MyAccessible::AccValue(found_.object.Get(), found_.child.Get())
+                   : std::wstring();
+  }
+  std::wstring AccessibleName() override {
+    return Found() ? MyAccessible::AccName(found_.object.Get(), found_.child.Get())
+                   : std::wstring();
+  }
+  std::wstring WindowText() override { return Win32API_Window::WindowTextByMessage(hwnd_); }
+
+ private:
+  bool Found() {
+    if (!searched_) exists_ = MyAccessible::GetAccessibleObjAt(point_, found_);
+    searched_ = true;
+    return exists_;
+  }
+
+  POINT point_;
+  HWND hwnd_;
+  bool searched_ = false;
+  bool exists_ = false;
+  MyAccessible::ObjectAndChild found_;
+};
+
+}  // namespace
+
+bool WantsAccessibleValue(std::wstring_view className, std::wstring_view classList) {
+  return !classList.empty() && ContainsIgnoringCase(classList, className);
+}
+
+std::wstring TextAtPoint(PointSources& sources, std::wstring_view classList, bool firstLineOnly,
+                         std::wstring& method) {
+  method.clear();
+  const std::wstring className = sources.ClassName();
+  if (EqualIgnoringCase(className, kDocumentClass)) {
+    if (const auto element = sources.Element()) {
+      std::wstring text = ElementText(*element, method);
+      if (!text.empty()) return text;
+    }
+  }
+
+  method.clear();
+  std::wstring text;
+  if (WantsAccessibleValue(className, classList)) text = sources.AccessibleValue();
+  if (text.empty()) text = sources.AccessibleName();
+  if (!text.empty()) {
+    if (firstLineOnly) text.resize(MinOf(text.find(L"\r\n"), text.size()));
+    method = L"Accessible";
+    return text;
+  }
+
+  text = sources.WindowText();
+  if (!text.empty()) method = L"WM_GETTEXT";
+  return text;
+}
+
+std::wstring MyGetControlTextFromPoint(int x, int y, std::wstring_view classList,
+                                       bool firstLineOnly, std::wstring& method) {
+  ScreenPoint sources({x, y});
+  return TextAtPoint(sources, classList, firstLineOnly, method);
+}
+
+}  // namespace extract

@@ -1,0 +1,300 @@
+#include "capture/ReportComposer.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "FakeCapture.h"
+
+namespace capture {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+
+// Gives texts that tell where they come from and notes what it was asked.
+class FakeReaders : public ReportReaders {
+ public:
+  explicit FakeReaders(std::vector<std::string>& trace) : trace_(trace) {}
+
+  WindowFacts Facts(HWND hwnd) override {
+    Note("facts");
+    return {hwnd, className, title, {1, 2, 3, 4}};
+  }
+  WindowInformation Information(const WindowFacts& window) override {
+    Note("information");
+    return {window, {}, {}, {}};
+  }
+  std::wstring TextFromPoint(POINT point, std::wstring& method) override {
+    Note("point");
+    askedPoint = point;
+    method = L"Accessible";
+    return pointText;
+  }
+  std::wstring NameOfWindow(HWND) override {
+    Note("name of window");
+    return L"窓の名";
+  }
+  std::wstring MyGetEditItem(const CategoryRead& read) override { return Read("edit", read); }
+  std::wstring MyGetListBoxItem(const CategoryRead& read) override { return Read("list", read); }
+  std::wstring MyGetComboBoxItem(const CategoryRead& read) override { return Read("combo", read); }
+  std::wstring AccessibleChildren(const CategoryRead& read) override {
+    return Read("children", read);
+  }
+  std::wstring GetListViewItem(const CategoryRead& read) override {
+    return Read("list view", read);
+  }
+  std::wstring AccessibleTree(const CategoryRead& read) override { return Read("tree", read); }
+  std::wstring GetToolbarItem(const CategoryRead& read) override { return Read("toolbar", read); }
+  std::wstring GetTabControlItem(const CategoryRead& read) override { return Read("tabs", read); }
+  std::wstring GetTooltipText(const CategoryRead& read) override { return Read("tool tip", read); }
+  std::wstring GetOther(const CategoryRead& read) override { return Read("other", read); }
+  std::wstring GetChildText(const CategoryRead& read) override { return Read("dialog", read); }
+  AccessibleTexts Accessible(HWND hwnd, POINT) override {
+    Note("accessible");
+    accessibleOf = hwnd;
+    return {L"MSAA", L"名"};
+  }
+  std::wstring StatusText(HWND target, std::wstring_view ofClass,
+                          std::wstring_view ofTitle) override {
+    Note("status");
+    statusOf = target;
+    EXPECT_EQ(ofClass, className);
+    EXPECT_EQ(ofTitle, title);
+    return L"状態";
+  }
+
+  std::wstring className = L"Button";
+  std::wstring title = L"題";
+  std::wstring pointText = L"a\nb\r\nc";
+  std::function<void(const CategoryRead&)> onRead;
+  std::string failing;  // the reader that throws
+  POINT askedPoint{};
+  HWND accessibleOf = WindowNumber(-1);
+  HWND statusOf = nullptr;
+
+ private:
+  void Note(const std::string& what) {
+    trace_.push_back(what);
+    if (what == failing) throw std::runtime_error("the reader fails");
+  }
+  std::wstring Read(const std::string& what, const CategoryRead& read) {
+    EXPECT_EQ(read.hwnd, WindowNumber(77));
+    if (onRead) onRead(read);
+    Note(what);
+    return L"一覧";
+  }
+
+  std::vector<std::string>& trace_;
+};
+
+class ReportComposerTest : public testing::Test {
+ protected:
+  ReportComposerTest() {
+    fake_.state.TargetWindow = WindowNumber(77);
+    fake_.state.CapturePoint = {300, 400};
+    fake_.state.CaptureRunning = true;
+  }
+  void Compose() { ComposeReport(fake_.Context(), readers_); }
+  std::wstring Text(ViewText part) { return fake_.view.texts[part]; }
+
+  FakeCapture fake_;
+  FakeReaders readers_{fake_.trace};
+};
+
+TEST_F(ReportComposerTest, FillsTheBoxes) {
+  Compose();
+  EXPECT_EQ(fake_.view.handleTag, L"77");
+  EXPECT_EQ(Text(ViewText::txthWnd), L"77");
+  EXPECT_EQ(Text(ViewText::txtWin0), L"Button");
+  EXPECT_EQ(Text(ViewText::txtWin1), L"");
+  EXPECT_EQ(Text(ViewText::txtWin2), L"名");
+  EXPECT_EQ(Text(ViewText::txtWin3), L"a\nb\r\nc");
+  EXPECT_EQ(Text(ViewText::lblTextKind), L"Accessible");
+  EXPECT_EQ(Text(ViewText::txtStatus), L"状態");
+}
+
+TEST_F(ReportComposerTest, HexChangesTheBoxNotItsTag) {
+  fake_.settings.winHandle = L"hex";
+  Compose();
+  EXPECT_EQ(fake_.view.handleTag, L"77");
+  EXPECT_EQ(Text(ViewText::txthWnd), L"4D");
+}
+
+TEST_F(ReportComposerTest, FillsTheSlots) {
+  fake_.state.TopTexts = {L"x", L"x", L"x"};
+  fake_.state.BottomTexts = {L"x", L"x", L"x", L"x"};
+  Compose();
+  EXPECT_EQ(fake_.state.TopTexts[1], L"MSAA");
+  EXPECT_EQ(fake_.state.TopTexts[2], L"a\r\nb\r\nc");
+  EXPECT_EQ(fake_.state.BottomTexts[0], L"");
+  EXPECT_TRUE(fake_.state.BottomTexts[1].starts_with(L"ウィンドウ情報\r\n"));
+  EXPECT_EQ(fake_.state.BottomTexts[2], L"一覧");
+  EXPECT_EQ(fake_.state.BottomTexts[3], L"");
+}
+
+TEST_F(ReportComposerTest, ShowsWhatDetailChooses) {
+  Compose();
+  EXPECT_EQ(Text(ViewText::TopPane), L"a\r\nb\r\nc");
+  EXPECT_EQ(Text(ViewText::BottomPane), L"一覧");
+  fake_.settings.detail = 1;
+  Compose();
+  EXPECT_EQ(Text(ViewText::TopPane), L"MSAA");
+  EXPECT_TRUE(Text(ViewText::BottomPane).starts_with(L"ウィンドウ情報"));
+}
+
+TEST_F(ReportComposerTest, ReadsInThisOrder) {
+  Compose();
+  std::vector<std::string> reads;
+  for (const std::string& call : fake_.trace) {
+    if (call != "text" && call != "show part") reads.push_back(call);
+  }
+  EXPECT_THAT(
+      reads, ElementsAre("facts", "point", "other", "pump", "information", "accessible", "status"));
+}
+
+TEST_F(ReportComposerTest, ShowsTheListBeforeItReadsOn) {
+  std::wstring bottomInPump;
+  std::wstring detailInPump = L"?";
+  fake_.system.onPump = [&] {
+    bottomInPump = Text(ViewText::BottomPane);
+    detailInPump = fake_.state.BottomTexts[1];
+  };
+  Compose();
+  EXPECT_EQ(bottomInPump, L"一覧");
+  EXPECT_EQ(detailInPump, L"");
+}
+
+TEST_F(ReportComposerTest, StaysWithTheWindowItBeganWith) {
+  fake_.system.onPump = [this] {
+    fake_.state.TargetWindow = WindowNumber(88);
+    fake_.state.CapturePoint = {1, 1};
+  };
+  Compose();
+  EXPECT_EQ(readers_.statusOf, WindowNumber(77));
+  EXPECT_NE(fake_.state.BottomTexts[1].find(L"：77(x4D)"), std::wstring::npos);
+}
+
+TEST_F(ReportComposerTest, ReadersSeeTheTargetMove) {
+  readers_.onRead = [this](const CategoryRead& read) {
+    EXPECT_EQ(read.session.target, WindowNumber(77));
+    fake_.system.onPump = [this] { fake_.state.TargetWindow = WindowNumber(88); };
+    read.session.yield();
+    EXPECT_EQ(read.session.target, WindowNumber(88));
+    EXPECT_TRUE(read.session.stillRunning());
+    fake_.state.CaptureRunning = false;
+    EXPECT_FALSE(read.session.stillRunning());
+    read.session.showProgress(L"3/7");
+    EXPECT_EQ(Text(ViewText::txtCount), L"3/7");
+  };
+  Compose();
+  // The last progress stays: it is the number of items.
+  EXPECT_EQ(Text(ViewText::txtCount), L"3/7");
+}
+
+TEST_F(ReportComposerTest, TakesTheTextFromTheHandleWhenAsked) {
+  fake_.settings.fromHwnd = 1;
+  Compose();
+  EXPECT_EQ(fake_.state.TopTexts[2], L"窓の名");
+  EXPECT_EQ(readers_.accessibleOf, WindowNumber(77));
+  EXPECT_THAT(fake_.trace, Not(Contains("point")));
+  EXPECT_EQ(Text(ViewText::lblTextKind), L"");
+}
+
+TEST_F(ReportComposerTest, ElseFromThePoint) {
+  Compose();
+  EXPECT_EQ(readers_.askedPoint.x, 300);
+  EXPECT_EQ(readers_.askedPoint.y, 400);
+  EXPECT_EQ(readers_.accessibleOf, nullptr);
+}
+
+TEST_F(ReportComposerTest, WithTheTipAsHintTheStatusTextIsLeftAlone) {
+  fake_.settings.hint = 1;
+  fake_.view.texts[ViewText::txtStatus] = L"前";
+  Compose();
+  EXPECT_EQ(Text(ViewText::txtStatus), L"前");
+  EXPECT_THAT(fake_.trace, Not(Contains("status")));
+}
+
+TEST_F(ReportComposerTest, TheStatusTextIsEmptiedFirst) {
+  fake_.view.texts[ViewText::txtStatus] = L"前";
+  readers_.failing = "status";
+  Compose();
+  EXPECT_EQ(Text(ViewText::txtStatus), L"");
+}
+
+TEST_F(ReportComposerTest, ABrowserWindowIsMarkedAndSkipsTheList) {
+  readers_.className = L"Internet Explorer_Server";
+  Compose();
+  EXPECT_EQ(fake_.state.BottomTexts[0], L"1");
+  EXPECT_FALSE(fake_.view.shown[ViewText::txtCount]);
+  EXPECT_TRUE(fake_.state.BottomTexts[1].starts_with(L"ウィンドウ情報"));
+  // The next window is not one any more, and its count is shown again.
+  readers_.className = L"Notepad";
+  Compose();
+  EXPECT_EQ(fake_.state.BottomTexts[0], L"");
+  EXPECT_TRUE(fake_.view.shown[ViewText::txtCount]);
+}
+
+struct ReaderCase {
+  const wchar_t* className;
+  const char* reader;
+};
+
+class CategoryReaderTest : public ReportComposerTest,
+                           public testing::WithParamInterface<ReaderCase> {};
+
+TEST_P(CategoryReaderTest, IsTheOneOfTheCategory) {
+  readers_.className = GetParam().className;
+  Compose();
+  EXPECT_THAT(fake_.trace, Contains(GetParam().reader).Times(1));
+  EXPECT_EQ(fake_.state.BottomTexts[2], L"一覧");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Classes, CategoryReaderTest,
+    testing::Values(ReaderCase{L"Edit", "edit"}, ReaderCase{L"ListBox", "list"},
+                    ReaderCase{L"ComboBox", "combo"}, ReaderCase{L"ComboLBox", "children"},
+                    ReaderCase{L"SysListView32", "list view"}, ReaderCase{L"SysTreeView32", "tree"},
+                    ReaderCase{L"ToolbarWindow32", "toolbar"},
+                    ReaderCase{L"SysTabControl32", "tabs"},
+                    ReaderCase{L"tooltips_class32", "tool tip"}, ReaderCase{L"Static", "other"},
+                    ReaderCase{L"#32770", "dialog"}));
+
+TEST_F(ReportComposerTest, TheFrameOfABrowserHasNoList) {
+  readers_.className = L"IEFrame";
+  Compose();
+  EXPECT_EQ(fake_.state.BottomTexts[2], L"");
+  EXPECT_TRUE(fake_.state.BottomTexts[1].starts_with(L"ウィンドウ情報"));
+}
+
+class FailingReaderTest : public ReportComposerTest,
+                          public testing::WithParamInterface<const char*> {};
+
+TEST_P(FailingReaderTest, LeavesItsSlotAndTheReportGoesOn) {
+  readers_.failing = GetParam();
+  Compose();
+  EXPECT_EQ(fake_.state.TopTexts[2].empty(), readers_.failing == "point");
+  EXPECT_EQ(fake_.state.BottomTexts[2].empty(), readers_.failing == "other");
+  EXPECT_EQ(fake_.state.BottomTexts[1].empty(), readers_.failing == "information");
+  EXPECT_EQ(fake_.state.TopTexts[1].empty(), readers_.failing == "accessible");
+  EXPECT_THAT(fake_.trace, Contains("status"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Readers, FailingReaderTest,
+                         testing::Values("point", "other", "information", "accessible", "status"));
+
+TEST_F(ReportComposerTest, SurvivesAScreenAndASystemThatFail) {
+  fake_.view.failing = true;
+  fake_.system.failing = true;
+  EXPECT_NO_THROW(Compose());
+  EXPECT_EQ(fake_.state.TopTexts[2], L"a\r\nb\r\nc");
+}
+
+TEST(WithLineEndsTest, EndsEveryLineWithCrLf) {
+  EXPECT_EQ(WithLineEnds(L"x\ny\r\nz"), L"x\r\ny\r\nz");
+  EXPECT_EQ(WithLineEnds(L"x\x01y\rz"), L"x\r\ny\rz");
+}
+
+}  // namespace
+}  // namespace capture
