@@ -1,0 +1,35 @@
+// How the readers of items reach a control: by messages, and by memory of its process.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+
+#include "extract/MemoryCalls.h"
+
+namespace extract {
+
+class ControlMessages {
+ public:
+  ControlMessages() = default;
+  ControlMessages(const ControlMessages&) = delete;
+  ControlMessages& operator=(const ControlMessages&) = delete;
+  virtual ~ControlMessages() = default;
+
+  // Waits as long as the window takes. 0 when there is no such window. Controls answer in 32 bits,
+  // so -1 comes as -1 whatever the bitness of the other side.
+  virtual std::int32_t Send(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+
+  // The process of the window; 0 when there is no such window.
+  virtual DWORD ProcessOf(HWND hwnd);
+};
+
+struct ControlAccess {
+  ControlMessages& messages;
+  MyMapView::MemoryCalls& memory;
+};
+
+// The one that reaches the real controls.
+const ControlAccess& SystemAccess();
+
+}  // namespace extract
