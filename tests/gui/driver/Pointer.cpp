@@ -48,6 +48,11 @@ void Drag(POINT from, POINT to, const std::function<void()>& beforeRelease) {
   for (int step = 1; step <= kSteps; ++step) {
     MoveTo({from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});
   }
+  // A hand trembles before it lets go: should the last step have been swallowed, this makes up.
+  for (const LONG tremble : {1, 0}) {
+    Last(Milliseconds(20));
+    MoveTo({to.x + tremble, to.y});
+  }
   beforeRelease();
   Release();
 }
