@@ -14,23 +14,56 @@ struct MarkerPlan {
   int dy;
 };
 
-constexpr std::array<MarkerPlan, 4> kMarkers{{
+constexpr std::array<MarkerPlan, kMarkerCount> kMarkers{{
     {L"frmP0", -2, -2},
     {L"frmP1", 2, -2},
     {L"frmP2", 2, 2},
     {L"frmP3", -2, 2},
 }};
 
+bool IsThisProgramInFront() {
+  DWORD process = 0;
+  GetWindowThreadProcessId(GetForegroundWindow(), &process);
+  return process == GetCurrentProcessId();
+}
+
+// While it lives, no window of this thread becomes active or gets the focus.
+class ActivationRefused {
+ public:
+  ActivationRefused() : hook_(SetWindowsHookExW(WH_CBT, Refuse, nullptr, GetCurrentThreadId())) {}
+  ~ActivationRefused() { UnhookWindowsHookEx(hook_); }
+  ActivationRefused(const ActivationRefused&) = delete;
+  ActivationRefused& operator=(const ActivationRefused&) = delete;
+
+  bool IsInForce() const { return hook_ != nullptr; }
+
+ private:
+  static LRESULT CALLBACK Refuse(int code, WPARAM wParam, LPARAM lParam) noexcept {
+    const LRESULT others = CallNextHookEx(nullptr, code, wParam, lParam);
+    return code == HCBT_ACTIVATE || code == HCBT_SETFOCUS ? 1 : others;
+  }
+
+  HHOOK hook_;
+};
+
 }  // namespace
+
+POINT MarkerPlace(std::size_t index, POINT readPoint) {
+  return {readPoint.x + kMarkers[index].dx, readPoint.y + kMarkers[index].dy};
+}
 
 class Marker : public Window {
  public:
   explicit Marker(const MarkerPlan& plan) : red_(CreateSolidBrush(RGB(255, 0, 0))) {
     WindowPlan window{plan.name};
     window.style = WS_POPUP;
-    window.exStyle = WS_EX_TOPMOST | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE;
+    // Layered and transparent: the pointer, and who asks for the window at a point, look through.
+    window.exStyle =
+        WS_EX_TOPMOST | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_LAYERED | WS_EX_TRANSPARENT;
     window.place = {0, 0, kMarkerSize, kMarkerSize};
     Create(window);
+    SetLayeredWindowAttributes(Handle(), 0, 255, LWA_ALPHA);
+    SetWindowPos(Handle(), HWND_TOPMOST, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE);
   }
 
   void Show(bool visible) {
@@ -39,8 +72,8 @@ class Marker : public Window {
                  SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | show);
   }
 
-  void MoveTo(int left, int top) {
-    SetWindowPos(Handle(), nullptr, left, top, 0, 0,
+  void MoveTo(POINT place) {
+    SetWindowPos(Handle(), nullptr, place.x, place.y, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   }
 
@@ -78,12 +111,23 @@ void Markers::Show(bool visible) {
   for (const auto& marker : markers_) {
     if (marker) marker->Show(visible);
   }
+  if (visible) CallToFront();
+}
+
+void Markers::CallToFront() {
+  if (!IsThisProgramInFront()) return;
+  // Showing them has put them on top already. The activation that comes with the calls is refused:
+  // once a second it would take the focus from whoever types in one of our dialogs, and close the
+  // list that is open there.
+  const ActivationRefused refused;
+  if (!refused.IsInForce()) return;
+  for (const auto& marker : markers_) SetForegroundWindow(marker->Handle());
 }
 
 void Markers::Place(POINT point) {
   Load();
   for (std::size_t i = 0; i < markers_.size(); ++i) {
-    markers_[i]->MoveTo(point.x + kMarkers[i].dx, point.y + kMarkers[i].dy);
+    markers_[i]->MoveTo(MarkerPlace(i, point));
   }
 }
 

@@ -8,6 +8,11 @@
 
 namespace ui {
 
+constexpr std::size_t kMarkerCount = 4;
+
+// The top left corner of marker index (0 to 3) around that read point, which stays uncovered.
+POINT MarkerPlace(std::size_t index, POINT readPoint);
+
 // One of frmP0 to frmP3: 2 by 2 pixels, above all other windows, never active.
 class Marker;
 
@@ -16,10 +21,11 @@ class Markers {
   Markers();
   ~Markers();
 
-  // Shows or hides all four; loads them when they are needed first.
+  // Shows or hides all four; loads them when they are needed first. Neither the focus nor the
+  // window in front changes, and no menu closes.
   void Show(bool visible);
 
-  // Moves them to the four diagonal corners of point (screen pixels), which stays uncovered.
+  // Moves them to the four diagonal corners of point (screen pixels).
   void Place(POINT point);
 
   void Unload();
@@ -29,8 +35,9 @@ class Markers {
 
  private:
   void Load();
+  void CallToFront();
 
-  std::array<std::unique_ptr<Marker>, 4> markers_;
+  std::array<std::unique_ptr<Marker>, kMarkerCount> markers_;
 };
 
 }  // namespace ui
