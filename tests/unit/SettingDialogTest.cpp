@@ -1,0 +1,418 @@
+// The settings dialog in the test's own process: what each control does to the record.
+#include "ui/frmSetting.h"
+
+#include <gtest/gtest.h>
+
+#include "DialogDriving.h"
+#include "ui/ControlIds.h"
+
+namespace ui {
+namespace {
+
+using S = settings::Settings;
+
+class SettingDialogTest : public testing::Test {
+ protected:
+  SettingDialogTest() {
+    state_.TwipsPerPixelX = 15;
+    state_.TwipsPerPixelY = 15;
+    settings_.settingLeft = 1500;
+    settings_.settingTop = 600;
+    settings_.hotkey = L"F5";
+  }
+
+  void Open() {
+    dialog_.Show(nullptr);
+    ASSERT_NE(dialog_.Handle(), nullptr);
+  }
+  HWND Control(int id) const { return FindControl(dialog_.Handle(), id); }
+  std::wstring Text(int id) const { return WindowText(Control(id)); }
+  // Whether the control itself is shown, on whatever page.
+  bool IsShown(int id) const {
+    return (GetWindowLongPtrW(Control(id), GWL_STYLE) & WS_VISIBLE) != 0;
+  }
+  void CloseBox() { SendMessageW(dialog_.Handle(), WM_CLOSE, 0, 0); }
+
+  S settings_;
+  capture::CaptureState state_;
+  int closed_ = 0;
+  frmSetting dialog_{settings_, state_, [this] { ++closed_; }};
+};
+
+struct Words {
+  int id;
+  const wchar_t* caption;
+  const wchar_t* tip;
+};
+
+constexpr Words kWords[] = {
+    {FrList0, L"各種コントロール情報取得設定", L""},
+    {FrList1, L"HTMLドキュメント", L""},
+    {FrList2, L"MSAA(MS Active Accessibility) 設定", L""},
+    {FrList3, L"その他", L""},
+    {lblButton0, L"コントロール", L""},
+    {lblButton1, L"HTML", L""},
+    {lblButton2, L"MSAA", L""},
+    {lblButton3, L"その他", L""},
+    {chkContinue, L"コピー＆継続 - 上段テキストをクリップボード転送＆継続実行",
+     L"ホットキー押下時に、上段文字列をクリップボードに転送後、連続実行"},
+    {lblAutoStopTime, L"自動停止", L""},
+    {cmbAutoStop, L"", L"マウスの動きが止まってから指定秒後に自動停止（空白は自動停止無し）"},
+    {lblAutoStopNote, L"マウス移動が無くなったら、指定秒後に自動停止", L""},
+    {chkAutoClose, L"自動終了", L"自動で処理を終了します"},
+    {chkChime, L"サウンド", L"停止時にサウンド"},
+    {chkShift, L"目標位置をシフト", L""},
+    {lblShift0, L"X軸（右）方向", L""},
+    {lblShift1, L"Y軸（下）方向", L""},
+    {chkDispTop, L"最前面表示", L"ウィンドウを表示最前面"},
+    {chkToFile, L"制限文字数超過時にファイル出力",
+     L"取得文字数が65000文字を超える時はデスクトップにテキストファイルとして出力する"},
+    {cmdHotKey, L"ホットキーの設定/変更", L"ホットキーの変更"},
+    {lblHotKey, L"F5", L""},
+    {chkAutoStart, L"起動時に開始", L"起動後に即、情報取得を開始します。"},
+    {chkDispText, L"テキスト表示", L"既定はHTMLソース表示"},
+    {lblStLevel, L"表示開始階層", L""},
+    {frClipboard, L"クリップボード転送", L""},
+    {Opt_Clipboard0, L"無し", L"コピー操作以外は転送無し"},
+    {Opt_Clipboard1, L"クリック時",
+     L"クリック時に対象コントロールの全文字列をクリップボードに転送"},
+    {Opt_Clipboard2, L"停止時 上段テキスト",
+     L"[停止]時に自動的に上段テキストボックスの全文字列をクリップボードに転送"},
+    {Opt_Clipboard3, L"停止時 下段テキスト",
+     L"[停止]時に自動的に下段テキストボックスの全文字列をクリップボードに転送"},
+    {frHint, L"ヒントテキスト", L"ポイントした時に表示される文字列"},
+    {OptHint0, L"StatusBar", L"ステータスバーの文字列"},
+    {OptHint1, L"ToolTips", L"ツールチップ（ToolTips）の表示文字列"},
+    {frTreeView, L"ツリービュー", L""},
+    {chkTreeViewIndent, L"インデント表示", L"チェック時：ツリービューを字下げ表示"},
+    {frListview, L"リストビュー", L""},
+    {OptListview0, L"タブ区切り", L"エクセルに直接貼り付けることが出来ます"},
+    {OptListview1, L"カンマ区切り", L"CSVファイルとして利用可"},
+    {OptListview2, L"１列目のみ", L"複数列の場合、2列目以降を無視"},
+    {lblAccNameMax, L"accNameの取得最大長", L""},
+    {lblChildMaxCount, L"AccessiblityでのChild最大取得個数", L""},
+    {cmbChildMaxCount, L"   0",
+     L"MSAA(Microsoft Active Accessibility)でのParent/Child最大取得個数"},
+    {ChkAccFromhWnd, L"ウィンドウハンドルから取得",
+     L"情報をポイント位置のウィンドウハンドルから取得"},
+    {frAct, L"Action Test\u3000\u3000Ctrl キー", L""},
+    {OptAct0, L"None", L""},
+    {OptAct1, L"AccDoDefaultAction", L""},
+    {OptAct2, L"AccSelect 1", L""},
+    {OptAct3, L"AccSelect 2", L""},
+    {cmdClose, L"閉じる", L""},
+};
+
+TEST_F(SettingDialogTest, SaysWhatItSays) {
+  Open();
+  EXPECT_EQ(WindowText(dialog_.Handle()), L"設定");
+  for (const Words& words : kWords) {
+    EXPECT_EQ(Text(words.id), words.caption) << words.id;
+    EXPECT_EQ(TipOf(dialog_.Handle(), Control(words.id)), words.tip) << words.id;
+  }
+  // The pointer over a list is over the box in it.
+  EXPECT_EQ(TipOf(dialog_.Handle(), BoxOfList(Control(cmbAutoStop))),
+            L"マウスの動きが止まってから指定秒後に自動停止（空白は自動停止無し）");
+}
+
+TEST_F(SettingDialogTest, IsATopmostDialogAtItsPlace) {
+  Open();
+  EXPECT_NE(GetWindowLongPtrW(dialog_.Handle(), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+  RECT place{};
+  GetWindowRect(dialog_.Handle(), &place);
+  EXPECT_EQ(place.left, 100);
+  EXPECT_EQ(place.top, 40);
+}
+
+TEST_F(SettingDialogTest, PageButtonShowsItsPageAndKeepsIt) {
+  settings_.settingNo = 2;
+  Open();
+  for (const int page : {2, 0, 3, 1}) {
+    if (page != 2) Click(Control(lblButton0 + page));
+    EXPECT_EQ(settings_.settingNo, page);
+    for (int i = 0; i < kSettingPages; ++i) EXPECT_EQ(IsShown(FrList0 + i), i == page);
+  }
+}
+
+TEST_F(SettingDialogTest, PageOutOfRangeOpensTheFirst) {
+  settings_.settingNo = 7;
+  Open();
+  EXPECT_TRUE(IsShown(FrList0));
+}
+
+struct BoxCase {
+  int id;
+  std::int32_t S::*setting;
+};
+constexpr BoxCase kBoxes[] = {
+    {chkContinue, &S::continueCapture},
+    {chkAutoClose, &S::autoClose},
+    {chkChime, &S::chime},
+    {chkShift, &S::shift},
+    {chkDispTop, &S::dispTop},
+    {chkToFile, &S::toFile},
+    {chkAutoStart, &S::autoStart},
+    {chkDispText, &S::dispText},
+    {ChkAccFromhWnd, &S::fromHwnd},
+    {chkTreeViewIndent, &S::treeviewIndent},
+};
+
+TEST_F(SettingDialogTest, CheckBoxesStoreAtOnce) {
+  Open();
+  for (const BoxCase& box : kBoxes) {
+    for (const std::int32_t value : {1, 0}) {
+      S expected = settings_;
+      expected.*box.setting = value;
+      Click(Control(box.id));
+      EXPECT_EQ(settings_, expected) << box.id;
+    }
+  }
+}
+
+TEST_F(SettingDialogTest, CheckBoxesShowTheRecord) {
+  for (const BoxCase& box : kBoxes) settings_.*box.setting = 1;
+  Open();
+  for (const BoxCase& box : kBoxes) EXPECT_EQ(BoxValue(Control(box.id)), 1) << box.id;
+}
+
+struct OptionCase {
+  int first;
+  int count;
+  std::int32_t S::*setting;
+};
+constexpr OptionCase kOptions[] = {
+    {Opt_Clipboard0, 4, &S::clipboard},
+    {OptHint0, 2, &S::hint},
+    {OptListview0, 3, &S::listviewCol},
+    {OptAct0, 4, &S::actionTest},
+};
+
+TEST_F(SettingDialogTest, OptionsStoreTheirIndexAtOnce) {
+  Open();
+  for (const OptionCase& group : kOptions) {
+    for (int value = group.count - 1; value >= 0; --value) {
+      S expected = settings_;
+      expected.*group.setting = value;
+      Click(Control(group.first + value));
+      EXPECT_EQ(settings_, expected) << group.first + value;
+    }
+  }
+}
+
+TEST_F(SettingDialogTest, OptionsShowTheRecord) {
+  for (const OptionCase& group : kOptions) settings_.*group.setting = group.count - 1;
+  Open();
+  for (const OptionCase& group : kOptions) {
+    for (int value = 0; value < group.count; ++value) {
+      EXPECT_EQ(BoxValue(Control(group.first + value)), value == group.count - 1 ? 1 : 0);
+    }
+  }
+}
+
+TEST_F(SettingDialogTest, AutoStopIsChosenFromTheList) {
+  settings_.autoStop = 0;
+  Open();
+  ChooseItem(Control(cmbAutoStop), 7);
+  EXPECT_EQ(settings_.autoStopTime, 10);
+  EXPECT_EQ(settings_.autoStop, 0);  // that is the main window's box
+  EXPECT_TRUE(IsShown(chkAutoClose));
+  EXPECT_TRUE(IsShown(chkChime));
+  ChooseItem(Control(cmbAutoStop), 0);
+  EXPECT_EQ(settings_.autoStopTime, 0);
+  EXPECT_FALSE(IsShown(chkAutoClose));
+  EXPECT_FALSE(IsShown(chkChime));
+}
+
+TEST_F(SettingDialogTest, AutoStopIsTyped) {
+  Open();
+  EXPECT_FALSE(IsShown(chkChime));
+  Type(Control(cmbAutoStop), L"x2-5 y");
+  EXPECT_EQ(Text(cmbAutoStop), L"25");
+  EXPECT_EQ(settings_.autoStopTime, 25);
+  EXPECT_TRUE(IsShown(chkChime));
+  Type(Control(cmbAutoStop), L"");
+  EXPECT_EQ(settings_.autoStopTime, 0);
+  EXPECT_FALSE(IsShown(chkChime));
+}
+
+TEST_F(SettingDialogTest, AutoStopIsShownRightAligned) {
+  struct {
+    std::int32_t value;
+    const wchar_t* text;
+    int chosen;
+  } const cases[] = {{0, L"", 0}, {5, L" 5", 5}, {10, L"10", 7}, {8, L" 8", -1}, {120, L"120", -1}};
+  for (const auto& one : cases) {
+    settings_.autoStopTime = one.value;
+    Open();
+    EXPECT_EQ(Text(cmbAutoStop), one.text);
+    EXPECT_EQ(SendMessageW(Control(cmbAutoStop), CB_GETCURSEL, 0, 0), one.chosen);
+    EXPECT_EQ(IsShown(chkAutoClose), one.value != 0);
+    EXPECT_EQ(IsShown(chkChime), one.value != 0);
+    CloseBox();
+  }
+}
+
+TEST_F(SettingDialogTest, ShiftShowsItsBoxes) {
+  settings_.shiftx = -20;
+  settings_.shifty = 30;
+  Open();
+  EXPECT_EQ(Text(txtShift0), L"-20");
+  EXPECT_EQ(Text(txtShift1), L"30");
+  EXPECT_FALSE(IsShown(frShift));
+  Click(Control(chkShift));
+  EXPECT_TRUE(IsShown(frShift));
+  Click(Control(chkShift));
+  EXPECT_FALSE(IsShown(frShift));
+}
+
+TEST_F(SettingDialogTest, LeavingEitherShiftBoxStoresBoth) {
+  settings_.shift = 1;
+  settings_.settingNo = 3;
+  Open();
+  for (const int left : {txtShift0, txtShift1}) {
+    settings_.shiftx = settings_.shifty = 77;
+    SetFocus(Control(left));
+    Type(Control(txtShift0), L"5-");
+    Type(Control(txtShift1), L"-");
+    EXPECT_EQ(settings_.shiftx, 77);
+    SetFocus(Control(cmdClose));
+    EXPECT_EQ(settings_.shiftx, 5);
+    EXPECT_EQ(settings_.shifty, 0);
+  }
+}
+
+TEST_F(SettingDialogTest, ShiftBoxesTakeDigitsAndMinus) {
+  Open();
+  Type(Control(txtShift0), L"a-1.2 3");
+  EXPECT_EQ(Text(txtShift0), L"-123");
+}
+
+TEST_F(SettingDialogTest, ClosingLeavesTheShiftBoxToo) {
+  settings_.shift = 1;
+  settings_.settingNo = 3;
+  Open();
+  SetFocus(Control(txtShift1));
+  Type(Control(txtShift1), L"-44");
+  CloseBox();
+  EXPECT_EQ(settings_.shifty, -44);
+}
+
+TEST_F(SettingDialogTest, StartNodeIsTheItemsIndex) {
+  settings_.startNode = 2;
+  Open();
+  EXPECT_EQ(SendMessageW(Control(cmbStLevel), CB_GETCURSEL, 0, 0), 2);
+  ChooseItem(Control(cmbStLevel), 4);
+  EXPECT_EQ(settings_.startNode, 4);
+}
+
+TEST_F(SettingDialogTest, CountsAreShownInFourCharacters) {
+  settings_.accnameMax = 50;
+  settings_.parentChildrenMax = 23;
+  Open();
+  EXPECT_EQ(Text(cmbAccNameMax), L"  50");
+  EXPECT_EQ(SendMessageW(Control(cmbAccNameMax), CB_GETCURSEL, 0, 0), 3);
+  EXPECT_EQ(Text(cmbChildMaxCount), L"  23");
+  EXPECT_EQ(SendMessageW(Control(cmbChildMaxCount), CB_GETCURSEL, 0, 0), -1);
+  ChooseItem(Control(cmbAccNameMax), 5);
+  EXPECT_EQ(settings_.accnameMax, 100);
+  ChooseItem(Control(cmbChildMaxCount), 7);
+  EXPECT_EQ(settings_.parentChildrenMax, 9999);
+}
+
+TEST_F(SettingDialogTest, ChildCountTakesNoKeys) {
+  settings_.parentChildrenMax = 10;
+  Open();
+  const HWND box = BoxOfList(Control(cmbChildMaxCount));
+  Type(Control(cmbChildMaxCount), L"12\b");
+  for (const int key : {VK_DOWN, VK_UP, VK_DELETE, VK_END, VK_F4}) {
+    SendMessageW(box, WM_KEYDOWN, static_cast<WPARAM>(key), 0);
+  }
+  SendMessageW(box, WM_CUT, 0, 0);
+  EXPECT_EQ(Text(cmbChildMaxCount), L"  10");
+  EXPECT_EQ(settings_.parentChildrenMax, 10);
+}
+
+TEST_F(SettingDialogTest, OpenListIsWorkedWithTheKeys) {
+  settings_.parentChildrenMax = 10;
+  settings_.settingNo = 2;
+  Open();
+  const HWND list = Control(cmbChildMaxCount);
+  const HWND box = BoxOfList(list);
+  SetFocus(box);
+  SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
+  SendMessageW(box, WM_KEYDOWN, VK_DOWN, 0);
+  SendMessageW(box, WM_KEYDOWN, VK_RETURN, 0);
+  EXPECT_EQ(settings_.parentChildrenMax, 50);
+  EXPECT_EQ(Text(cmbChildMaxCount), L"  50");
+}
+
+TEST_F(SettingDialogTest, ChangeAsksForANewReportWhileACaptureRuns) {
+  Open();
+  Click(Control(chkTreeViewIndent));
+  EXPECT_EQ(state_.RefreshRequest, 0);
+  state_.CaptureRunning = true;
+  Click(Control(OptListview1));
+  EXPECT_EQ(state_.RefreshRequest, 1);
+  state_.RefreshRequest = 0;
+  Click(Control(OptListview1));  // is chosen already
+  EXPECT_EQ(state_.RefreshRequest, 0);
+}
+
+TEST_F(SettingDialogTest, CloseButtonKeepsTheCornerForTheNextTime) {
+  Open();
+  SetWindowPos(dialog_.Handle(), nullptr, 222, 111, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  Click(Control(cmdClose));
+  EXPECT_EQ(dialog_.Handle(), nullptr);
+  EXPECT_EQ(closed_, 1);
+  EXPECT_EQ(settings_.settingLeft, 222 * 15);
+  EXPECT_EQ(settings_.settingTop, 111 * 15);
+  Open();
+  RECT place{};
+  GetWindowRect(dialog_.Handle(), &place);
+  EXPECT_EQ(place.left, 222);
+  EXPECT_EQ(place.top, 111);
+}
+
+TEST_F(SettingDialogTest, CloseBoxAndEscLeaveTheOldCorner) {
+  for (int way = 0; way < 2; ++way) {
+    Open();
+    SetWindowPos(dialog_.Handle(), nullptr, 222, 111, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    if (way == 0) CloseBox();
+    if (way == 1) SendMessageW(dialog_.Handle(), WM_COMMAND, IDCANCEL, 0);
+    EXPECT_EQ(dialog_.Handle(), nullptr);
+    EXPECT_EQ(closed_, way + 1);
+    EXPECT_EQ(settings_.settingLeft, 1500);
+    EXPECT_EQ(settings_.settingTop, 600);
+  }
+}
+
+TEST_F(SettingDialogTest, CloseButtonFollowsTheCorner) {
+  Open();
+  const auto place = [this](int id) {
+    RECT at{};
+    GetWindowRect(Control(id), &at);
+    MapWindowPoints(nullptr, dialog_.Handle(), reinterpret_cast<POINT*>(&at), 2);
+    return at;
+  };
+  const RECT page = place(FrList0);
+  SetWindowPos(dialog_.Handle(), nullptr, 0, 0, 600, 700, SWP_NOMOVE | SWP_NOZORDER);
+  RECT inner{};
+  GetClientRect(dialog_.Handle(), &inner);
+  const RECT button = place(cmdClose);
+  EXPECT_EQ(button.left, inner.right - 76 - 10);
+  EXPECT_EQ(button.top, inner.bottom - 25 - 10);
+  EXPECT_EQ(button.right, inner.right - 10);
+  EXPECT_EQ(button.bottom, inner.bottom - 10);
+  const RECT pageAfter = place(FrList0);
+  EXPECT_TRUE(EqualRect(&page, &pageAfter));
+}
+
+TEST_F(SettingDialogTest, ShowingItAgainOpensNoSecondOne) {
+  Open();
+  const HWND first = dialog_.Handle();
+  Open();
+  EXPECT_EQ(dialog_.Handle(), first);
+}
+
+}  // namespace
+}  // namespace ui
