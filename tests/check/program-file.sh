@@ -9,7 +9,7 @@ export LC_ALL=C
 readonly program=$1 objdump=$2
 readonly largest=$((3 * 512 * 1024))
 readonly machine_x86=014c
-readonly system_libraries=' advapi32 comctl32 comdlg32 gdi32 kernel32 msvcrt ole32 oleacc oleaut32 shell32 shlwapi user32 uxtheme version winmm '
+readonly system_libraries=' advapi32 comctl32 comdlg32 gdi32 imm32 kernel32 msvcrt ole32 oleacc oleaut32 shell32 shlwapi user32 uxtheme version winmm '
 
 status=0
 complain() {
