@@ -541,8 +541,8 @@ TEST_F(CaptureLoopTest, NothingThatFailsEndsACapture) {
   fake_.system.failing = true;
   fake_.view.failing = true;
   compose_ = [] { throw std::runtime_error("the report fails"); };
-  Run(500, [this](int) { fake_.state.RefreshRequest = 1; });
-  EXPECT_EQ(fake_.system.sleeps, 500);
+  Run(150, [this](int) { fake_.state.RefreshRequest = 1; });
+  EXPECT_EQ(fake_.system.sleeps, 150);
   EXPECT_EQ(fake_.state.RunState, L"");
   EXPECT_FALSE(fake_.state.CaptureRunning);
 }
