@@ -3,11 +3,18 @@
 #include "accessibility/MyAccessible.h"
 #include "capture/StatusText.h"
 #include "extract/ControlText.h"
+#include "extract/CsvText.h"
+#include "extract/ListBoxItems.h"
+#include "extract/ListViewItems.h"
 #include "extract/PointText.h"
+#include "extract/TabControlItems.h"
+#include "extract/ToolbarItems.h"
 #include "extract/Win32API_Window.h"
 
 namespace capture {
 namespace {
+
+constexpr std::int32_t kCommaSeparated = 1;  // of the setting "listview col"
 
 struct ClassSearch {
   std::wstring_view className;
@@ -51,13 +58,26 @@ class SystemReaders : public ReportReaders {
   std::wstring MyGetEditItem(const CategoryRead& read) override {
     return extract::MyGetEditItem(read.hwnd, read.method);
   }
-  std::wstring MyGetListBoxItem(const CategoryRead&) override { return {}; }
-  std::wstring MyGetComboBoxItem(const CategoryRead&) override { return {}; }
+  std::wstring MyGetListBoxItem(const CategoryRead& read) override {
+    return extract::MyGetListBoxItem(read.hwnd, read.session, read.method);
+  }
+  std::wstring MyGetComboBoxItem(const CategoryRead& read) override {
+    return extract::MyGetComboBoxItem(read.hwnd, read.session, read.method);
+  }
   std::wstring AccessibleChildren(const CategoryRead&) override { return {}; }
-  std::wstring GetListViewItem(const CategoryRead&) override { return {}; }
+  std::wstring GetListViewItem(const CategoryRead& read) override {
+    std::wstring rows =
+        extract::GetListViewItem(read.hwnd, read.session, read.method, settings_.listviewCol,
+                                 [&](HWND) { return AccessibleChildren(read); });
+    return settings_.listviewCol == kCommaSeparated ? extract::ToCsv(rows) : rows;
+  }
   std::wstring AccessibleTree(const CategoryRead&) override { return {}; }
-  std::wstring GetToolbarItem(const CategoryRead&) override { return {}; }
-  std::wstring GetTabControlItem(const CategoryRead&) override { return {}; }
+  std::wstring GetToolbarItem(const CategoryRead& read) override {
+    return extract::GetToolbarItem(read.hwnd, read.session, read.method);
+  }
+  std::wstring GetTabControlItem(const CategoryRead& read) override {
+    return extract::GetTabControlItem(read.hwnd, read.session, read.method);
+  }
   std::wstring GetTooltipText(const CategoryRead&) override { return extract::GetTooltipText(); }
   std::wstring GetOther(const CategoryRead& read) override {
     return extract::GetOther(
