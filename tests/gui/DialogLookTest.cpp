@@ -4,7 +4,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <string>
+
 #include "DialogWindow.h"
+#include "LayoutCheck.h"
 #include "driver/GuiTest.h"
 #include "driver/Resolution.h"
 #include "driver/Screen.h"
@@ -13,7 +17,35 @@
 namespace gui {
 namespace {
 
-class DialogLookTest : public GuiTest, public testing::WithParamInterface<UINT> {};
+using testing::IsEmpty;
+
+class DialogLookTest : public GuiTest, public testing::WithParamInterface<UINT> {
+ protected:
+  // A picture of the dialog once it is painted: two looks in a row show the same.
+  static void SaveWhenPainted(const DialogWindow& dialog, const std::string& name) {
+    std::optional<Picture> before;
+    EXPECT_TRUE(WaitFor("the dialog is painted", [&](std::string&) {
+      Last(Milliseconds(60));
+      Picture now = Picture::Of(dialog.Window().Rectangle());
+      const bool same = before.has_value() && *before == now;
+      before = std::move(now);
+      return same;
+    }));
+    SaveScreenshot(name + "-" + std::to_string(GetParam()));
+  }
+
+  static void ExpectTidy(const DialogWindow& dialog) {
+    EXPECT_THAT(Overlaps(dialog.Window()), IsEmpty());
+    EXPECT_THAT(Protruding(dialog.Window()), IsEmpty());
+    EXPECT_THAT(ClippedTexts(dialog.Window(), GetParam()), IsEmpty());
+  }
+
+  static bool IsOnScreen(const DialogWindow& dialog) {
+    const RECT at = dialog.Window().Rectangle();
+    return at.left >= 0 && at.top >= 0 && at.right <= GetSystemMetrics(SM_CXSCREEN) &&
+           at.bottom <= GetSystemMetrics(SM_CYSCREEN);
+  }
+};
 
 TEST_P(DialogLookTest, EveryPageShowsEverything) {
   const Resolution resolution(GetParam());
@@ -24,10 +56,20 @@ TEST_P(DialogLookTest, EveryPageShowsEverything) {
     settings[ui::lblButton0 + page].PressButton();
     ASSERT_TRUE(WaitFor("the page is shown",
                         [&](std::string&) { return settings[ui::FrList0 + page].IsVisible(); }));
-    SaveScreenshot("setting-" + std::to_string(GetParam()) + "-" + std::to_string(page));
+    ExpectTidy(settings);
+    SaveWhenPainted(settings, "setting-" + std::to_string(page));
   }
+  EXPECT_TRUE(IsOnScreen(settings));
+}
+
+TEST_P(DialogLookTest, HotKeyDialogShowsEverything) {
+  const Resolution resolution(GetParam());
+  const Program program;
+  const DialogWindow settings = OpenSettings(program);
   const DialogWindow option = OpenHotKeys(program, settings);
-  SaveScreenshot("option-" + std::to_string(GetParam()));
+  ExpectTidy(option);
+  EXPECT_TRUE(IsOnScreen(option));
+  SaveWhenPainted(option, "option");
 }
 
 INSTANTIATE_TEST_SUITE_P(Dpi, DialogLookTest, testing::Values(96U, 120U, 144U, 192U),

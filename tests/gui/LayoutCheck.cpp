@@ -15,9 +15,9 @@ struct Part {
   int id;
 };
 
-std::vector<Part> VisibleParts(const Program& program) {
+std::vector<Part> VisibleParts(const Control& root) {
   std::vector<Part> parts;
-  for (HWND window : Descendants(program.Window().Handle())) {
+  for (HWND window : Descendants(root.Handle())) {
     if (!IsWindowVisible(window)) continue;
     const int id = GetDlgCtrlID(window);
     parts.push_back({Control(window, std::to_string(id)), GetAncestor(window, GA_PARENT), id});
@@ -58,6 +58,13 @@ class Ruler {
     return size;
   }
 
+  // Of the text broken into lines of that width.
+  SIZE MeasureBroken(const std::string& utf8, LONG width) const {
+    RECT area = {0, 0, width, 0};
+    DrawTextW(dc_.get(), ToWide(utf8).c_str(), -1, &area, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+    return {area.right, area.bottom};
+  }
+
  private:
   OwnedFont font_;
   OwnedMemoryDc dc_;  // goes first: a font that is still selected cannot be deleted
@@ -93,22 +100,42 @@ std::string WithoutMarks(const std::string& text) {
   return shown;
 }
 
+std::string LongestItem(const Control& list, const Ruler& ruler) {
+  std::string longest;
+  const LRESULT count = SendMessageW(list.Handle(), CB_GETCOUNT, 0, 0);
+  for (WPARAM i = 0; i < static_cast<WPARAM>(count); ++i) {
+    wchar_t text[128] = {};
+    SendMessageW(list.Handle(), CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
+    const std::string item = ToUtf8(text);
+    if (ruler.Measure(item).cx > ruler.Measure(longest).cx) longest = item;
+  }
+  return longest;
+}
+
 // What a control needs beside its text.
 SIZE Surroundings(const Control& control, UINT dpi) {
   const LONG unit = static_cast<LONG>(dpi);
   const LONG_PTR kind = control.Style() & BS_TYPEMASK;
-  if (control.ClassName() == "Button" && kind == BS_AUTOCHECKBOX) {
-    return {(13 + 3) * unit / 96, 0};
-  }
+  const bool isMark = kind == BS_AUTOCHECKBOX || kind == BS_AUTORADIOBUTTON;
+  if (control.ClassName() == "Button" && isMark) return {(13 + 3) * unit / 96, 0};
+  if (control.ClassName() == "ComboBox") return {GetSystemMetrics(SM_CXVSCROLL) + 8, 4};
+  if (control.ClassName() == "VelmoraGroup") return {20, 0};
   if (control.ClassName() == "Button") return {6, 4};
   if (control.ClassName() == "Edit") return {6, 2};
   return {0, 0};
 }
 
+// Whether the control shows a long text in several lines.
+bool BreaksLines(const Control& control) {
+  if (control.ClassName() == "Button") return (control.Style() & BS_MULTILINE) != 0;
+  return control.ClassName() == "Static" && (control.Style() & SS_TYPEMASK) == SS_LEFT &&
+         (control.Style() & SS_CENTERIMAGE) == 0;
+}
+
 }  // namespace
 
-std::vector<std::string> Overlaps(const Program& program) {
-  const std::vector<Part> parts = VisibleParts(program);
+std::vector<std::string> Overlaps(const Control& window) {
+  const std::vector<Part> parts = VisibleParts(window);
   std::vector<std::string> faults;
   for (std::size_t i = 0; i < parts.size(); ++i) {
     for (std::size_t j = i + 1; j < parts.size(); ++j) {
@@ -121,9 +148,9 @@ std::vector<std::string> Overlaps(const Program& program) {
   return faults;
 }
 
-std::vector<std::string> Protruding(const Program& program) {
+std::vector<std::string> Protruding(const Control& window) {
   std::vector<std::string> faults;
-  for (const Part& part : VisibleParts(program)) {
+  for (const Part& part : VisibleParts(window)) {
     const RECT at = part.control.Rectangle();
     const RECT inner = InnerArea(Control(part.parent, "parent"));
     if (at.left < inner.left || at.top < inner.top || at.right > inner.right ||
@@ -136,18 +163,23 @@ std::vector<std::string> Protruding(const Program& program) {
   return faults;
 }
 
-std::vector<std::string> ClippedTexts(const Program& program, UINT dpi) {
+std::vector<std::string> ClippedTexts(const Control& window, UINT dpi) {
   const Ruler ruler(dpi);
   std::vector<std::string> faults;
-  for (HWND window : Descendants(program.Window().Handle())) {
-    const int id = GetDlgCtrlID(window);
-    const Control control(window, std::to_string(id));
+  for (HWND handle : Descendants(window.Handle())) {
+    const int id = GetDlgCtrlID(handle);
+    const Control control(handle, std::to_string(id));
     std::string text = LongestUsualText(id);
-    if (text.empty() && control.ClassName() != "Edit") text = WithoutMarks(control.Text());
+    if (control.ClassName() == "ComboBox") {
+      text = LongestItem(control, ruler);
+    } else if (text.empty() && control.ClassName() != "Edit") {
+      text = WithoutMarks(control.Text());
+    }
     if (text.empty()) continue;
-    const SIZE needed = ruler.Measure(text);
     const SIZE around = Surroundings(control, dpi);
     const SIZE room = control.Size();
+    const SIZE needed =
+        BreaksLines(control) ? ruler.MeasureBroken(text, room.cx - around.cx) : ruler.Measure(text);
     if (needed.cx + around.cx > room.cx || needed.cy + around.cy > room.cy) {
       faults.push_back("control " + std::to_string(id) + " (" + std::to_string(room.cx) + "x" +
                        std::to_string(room.cy) + ") needs " +

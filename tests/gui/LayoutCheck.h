@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "driver/Program.h"
+#include "driver/Control.h"
 
 namespace gui {
 
@@ -14,16 +14,16 @@ namespace gui {
 
 // Visible controls of the same parent that cover each other. The bottom pane and the status box
 // may share one pixel row: they are laid out so.
-std::vector<std::string> Overlaps(const Program& program);
+std::vector<std::string> Overlaps(const Control& window);
 
 // Visible controls that reach beyond their parent's inner area.
-std::vector<std::string> Protruding(const Program& program);
+std::vector<std::string> Protruding(const Control& window);
 
-// Captions, and boxes with their longest usual text, that are wider or higher than their control
-// in the message font of that resolution.
-std::vector<std::string> ClippedTexts(const Program& program, UINT dpi);
+// Captions, items of lists, and boxes with their longest usual text, that are wider or higher than
+// their control in the message font of that resolution.
+std::vector<std::string> ClippedTexts(const Control& window, UINT dpi);
 
-// The inner area of the main window in screen pixels.
+// The inner area of a window in screen pixels.
 RECT InnerArea(const Control& window);
 
 }  // namespace gui

@@ -126,9 +126,9 @@ class ResolutionTest : public GuiTest, public testing::WithParamInterface<UINT> 
 TEST_P(ResolutionTest, DefaultSizeShowsEverything) {
   const Resolution resolution(GetParam());
   const Program program({.conf = ConfFor(GetParam(), 427)});
-  EXPECT_THAT(Overlaps(program), IsEmpty());
-  EXPECT_THAT(Protruding(program), IsEmpty());
-  EXPECT_THAT(ClippedTexts(program, GetParam()), IsEmpty());
+  EXPECT_THAT(Overlaps(program.Window()), IsEmpty());
+  EXPECT_THAT(Protruding(program.Window()), IsEmpty());
+  EXPECT_THAT(ClippedTexts(program.Window(), GetParam()), IsEmpty());
   SaveScreenshot("default-" + std::to_string(GetParam()));
 }
 
@@ -136,9 +136,9 @@ TEST_P(ResolutionTest, SmallestSizeShowsEverything) {
   const Resolution resolution(GetParam());
   const Program program({.conf = ConfFor(GetParam(), 100) + "top height = 300\n"});
   EXPECT_EQ(program.Window().Size().cy, PixelsRoundedUp(3150, GetParam()));
-  EXPECT_THAT(Overlaps(program), IsEmpty());
-  EXPECT_THAT(Protruding(program), IsEmpty());
-  EXPECT_THAT(ClippedTexts(program, GetParam()), IsEmpty());
+  EXPECT_THAT(Overlaps(program.Window()), IsEmpty());
+  EXPECT_THAT(Protruding(program.Window()), IsEmpty());
+  EXPECT_THAT(ClippedTexts(program.Window(), GetParam()), IsEmpty());
   SaveScreenshot("smallest-" + std::to_string(GetParam()));
 }
 

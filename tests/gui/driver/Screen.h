@@ -21,6 +21,8 @@ class Picture {
   COLORREF At(int x, int y) const;
   std::size_t Count(COLORREF color) const;
 
+  bool operator==(const Picture&) const = default;
+
   // Throws std::runtime_error when the file cannot be written.
   void SavePng(const std::filesystem::path& file) const;
 
