@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "ProcessorTime.h"
+#include "ReportCost.h"
 #include "Statistics.h"
 #include "driver/ChildProcess.h"
 #include "driver/Paths.h"
@@ -112,6 +113,9 @@ int main() {
       {"start-up", 2.0, MeasureStartUp},
       {"idle processor time", 1.3, [] { return MeasureProcessorTime(false); }},
       {"resting capture processor time", 1.3, [] { return MeasureProcessorTime(true); }},
+      {"information block, 5000 children", 1.15, bench::MeasureInformation},
+      {"information block, growth to 5000 children", 1.15, bench::MeasureInformationGrowth},
+      {"delivery with file, growth to 20 MB", 1.15, bench::MeasureDeliveryGrowth},
   };
   bool held = true;
   try {
