@@ -34,14 +34,14 @@ void EndProgram() { ExitProcess(0); }
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
   const ComApartment apartment;
-  const INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES | ICC_LINK_CLASS |
-                                                           ICC_BAR_CLASSES};
+  const INITCOMMONCONTROLSEX controls{sizeof controls,
+                                      ICC_STANDARD_CLASSES | ICC_LINK_CLASS | ICC_BAR_CLASSES};
   InitCommonControlsEx(&controls);
 
   settings::Settings settings;
   capture::CaptureState state;
-  ui::frmQuorvinFromPoint mainWindow(
-      settings, state, {API_Shell::ProgramFolder(), commandLine, EndProgram});
+  ui::frmQuorvinFromPoint mainWindow(settings, state,
+                                     {API_Shell::ProgramFolder(), commandLine, EndProgram});
   if (!mainWindow.Load()) return 1;
   return platform::RunMessageLoop();
 }

@@ -9,8 +9,7 @@ void Tell(HWND grip, SplitterEvent event, LPARAM mouse) {
   SendMessageW(GetParent(grip), kSplitterMessage, event, GET_Y_LPARAM(mouse));
 }
 
-LRESULT CALLBACK SplitterProcedure(HWND hwnd, UINT message, WPARAM wParam,
-                                   LPARAM lParam) noexcept {
+LRESULT CALLBACK SplitterProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
   switch (message) {
     case WM_LBUTTONDOWN:
       SetCapture(hwnd);

@@ -2,6 +2,21 @@
 
 namespace ui {
 
+void RegisterWindowClass(const ClassPlan& plan) {
+  const HINSTANCE instance = GetModuleHandleW(nullptr);
+  WNDCLASSEXW windowClass{};
+  windowClass.cbSize = sizeof windowClass;
+  if (GetClassInfoExW(instance, plan.name, &windowClass)) return;
+  windowClass.lpfnWndProc = plan.procedure;
+  windowClass.hInstance = instance;
+  windowClass.hIcon = plan.icon;
+  windowClass.hIconSm = plan.smallIcon;
+  windowClass.hCursor = LoadCursorW(nullptr, plan.cursor);
+  windowClass.hbrBackground = plan.background;
+  windowClass.lpszClassName = plan.name;
+  RegisterClassExW(&windowClass);
+}
+
 Window::~Window() {
   if (hwnd_ == nullptr) return;
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, 0);
@@ -9,22 +24,12 @@ Window::~Window() {
 }
 
 bool Window::Create(const WindowPlan& plan) {
-  const HINSTANCE instance = GetModuleHandleW(nullptr);
-  WNDCLASSEXW windowClass{};
-  windowClass.cbSize = sizeof windowClass;
-  if (!GetClassInfoExW(instance, plan.className, &windowClass)) {
-    windowClass.lpfnWndProc = Thunk;
-    windowClass.hInstance = instance;
-    windowClass.hIcon = plan.icon;
-    windowClass.hIconSm = plan.smallIcon;
-    windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    windowClass.hbrBackground = plan.background;
-    windowClass.lpszClassName = plan.className;
-    RegisterClassExW(&windowClass);
-  }
+  RegisterWindowClass(
+      {plan.className, Thunk, IDC_ARROW, plan.background, plan.icon, plan.smallIcon});
   const RECT& place = plan.place;
   CreateWindowExW(plan.exStyle, plan.className, plan.caption, plan.style, place.left, place.top,
-                  place.right, place.bottom, plan.parentOrOwner, nullptr, instance, this);
+                  place.right, place.bottom, plan.parentOrOwner, nullptr, GetModuleHandleW(nullptr),
+                  this);
   return hwnd_ != nullptr;
 }
 

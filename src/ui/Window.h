@@ -7,6 +7,18 @@
 
 namespace ui {
 
+struct ClassPlan {
+  const wchar_t* name;
+  WNDPROC procedure;
+  const wchar_t* cursor = IDC_ARROW;
+  HBRUSH background = nullptr;
+  HICON icon = nullptr;
+  HICON smallIcon = nullptr;
+};
+
+// Registers a window class of this program, unless it is registered already.
+void RegisterWindowClass(const ClassPlan& plan);
+
 struct WindowPlan {
   const wchar_t* className;
   const wchar_t* caption = L"";
@@ -15,7 +27,7 @@ struct WindowPlan {
   HWND parentOrOwner = nullptr;
   HICON icon = nullptr;
   HICON smallIcon = nullptr;
-  HBRUSH background = nullptr;  // stays the caller's
+  HBRUSH background = nullptr;                     // stays the caller's
   RECT place{CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};  // left, top, width, height in pixels
 };
 
