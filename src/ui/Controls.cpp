@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "ui/Window.h"
+
 namespace ui {
 namespace {
 
@@ -52,21 +54,12 @@ LRESULT CALLBACK GroupProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM l
 }
 
 void RegisterFrameClasses() {
-  const HINSTANCE instance = GetModuleHandleW(nullptr);
-  WNDCLASSEXW frame{};
-  frame.cbSize = sizeof frame;
-  if (GetClassInfoExW(instance, kFrameClass, &frame)) return;
-  frame.lpfnWndProc = FrameProcedure;
-  frame.hInstance = instance;
-  frame.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  frame.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-  frame.lpszClassName = kFrameClass;
-  RegisterClassExW(&frame);
+  RegisterWindowClass({kFrameClass, FrameProcedure, IDC_ARROW, GetSysColorBrush(COLOR_BTNFACE)});
 
   WNDCLASSEXW group = ButtonClass();
   group.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
   group.lpfnWndProc = GroupProcedure;
-  group.hInstance = instance;
+  group.hInstance = GetModuleHandleW(nullptr);
   group.lpszClassName = kGroupClass;
   RegisterClassExW(&group);
 }

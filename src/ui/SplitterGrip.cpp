@@ -2,6 +2,8 @@
 
 #include <windowsx.h>
 
+#include "ui/Window.h"
+
 namespace ui {
 namespace {
 
@@ -33,16 +35,8 @@ LRESULT CALLBACK SplitterProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARA
 }  // namespace
 
 void RegisterSplitterClass() {
-  const HINSTANCE instance = GetModuleHandleW(nullptr);
-  WNDCLASSEXW grip{};
-  grip.cbSize = sizeof grip;
-  if (GetClassInfoExW(instance, kSplitterClass, &grip)) return;
-  grip.lpfnWndProc = SplitterProcedure;
-  grip.hInstance = instance;
-  grip.hCursor = LoadCursorW(nullptr, IDC_SIZENS);
-  grip.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-  grip.lpszClassName = kSplitterClass;
-  RegisterClassExW(&grip);
+  RegisterWindowClass(
+      {kSplitterClass, SplitterProcedure, IDC_SIZENS, GetSysColorBrush(COLOR_BTNFACE)});
 }
 
 }  // namespace ui
