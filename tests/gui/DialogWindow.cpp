@@ -52,28 +52,30 @@ int ChosenIndex(const Control& list) {
 }
 
 Control BoxOf(const Control& list) {
-  COMBOBOXINFO info = {};
-  info.cbSize = sizeof info;
-  GetComboBoxInfo(list.Handle(), &info);
-  if (info.hwndItem == nullptr) return list;
-  return {info.hwndItem, "the box of the list"};
+  const HWND box = FindInside(list.Handle(), "Edit");
+  if (box == nullptr) return list;
+  return {box, "the box of the list"};
 }
 
 void Choose(const Control& list, int index) {
-  COMBOBOXINFO info = {};
-  info.cbSize = sizeof info;
-  GetComboBoxInfo(list.Handle(), &info);
+  DWORD process = 0;
+  GetWindowThreadProcessId(list.Handle(), &process);
+  const auto opened = [process]() -> HWND {
+    for (HWND window : VisibleWindows(process)) {
+      if (Control(window, "").ClassName() == "ComboLBox") return window;
+    }
+    return nullptr;
+  };
   const RECT at = list.Rectangle();
   pointer::Click({at.right - 8, (at.top + at.bottom) / 2});
-  const Control opened(info.hwndList, "the open list");
-  Require(WaitFor("the list is open", [&](std::string&) { return opened.IsVisible(); }));
+  Require(WaitFor("the list is open", [&](std::string&) { return opened() != nullptr; }));
   RECT item = {};
-  SendMessageW(opened.Handle(), LB_GETITEMRECT, static_cast<WPARAM>(index),
+  SendMessageW(opened(), LB_GETITEMRECT, static_cast<WPARAM>(index),
                reinterpret_cast<LPARAM>(&item));
   POINT point = {(item.left + item.right) / 2, (item.top + item.bottom) / 2};
-  ClientToScreen(opened.Handle(), &point);
+  ClientToScreen(opened(), &point);
   pointer::Click(point);
-  Require(WaitFor("the list is closed", [&](std::string&) { return !opened.IsVisible(); }));
+  Require(WaitFor("the list is closed", [&](std::string&) { return opened() == nullptr; }));
 }
 
 }  // namespace gui
