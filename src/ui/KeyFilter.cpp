@@ -13,9 +13,13 @@ bool IsListOpen(HWND box) {
   return SendMessageW(GetParent(box), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
 }
 
+// Whether the character ends an open list, with the chosen item or with the one before.
+bool EndsList(WPARAM character) { return character == VK_RETURN || character == VK_ESCAPE; }
+
 bool Discards(HWND box, Typing typing, UINT message, WPARAM wParam) {
   switch (message) {
     case WM_CHAR:
+      if (EndsList(wParam) && IsListOpen(box)) return false;
       return !Accepts(typing, static_cast<wchar_t>(wParam));
     case WM_KEYDOWN:
       // An open list is worked with the same keys; without them a keyboard user could not choose.

@@ -287,6 +287,9 @@ TEST_F(SettingDialogTest, ChildCountTakesNoKeysButItsListDoes) {
   keys::Stroke({VK_DOWN}, Milliseconds(20));
   keys::Stroke({VK_RETURN}, Milliseconds(20));
   EXPECT_TRUE(list.TextBecomes("  50"));
+  EXPECT_TRUE(WaitFor("the list is closed", [&](std::string&) {
+    return SendMessageW(list.Handle(), CB_GETDROPPEDSTATE, 0, 0) == FALSE;
+  }));
   ASSERT_EQ(program.CloseAndWait(), 0U);
   EXPECT_EQ(ValueOf(program.ConfLines(), "parent & children max"), "50");
 }

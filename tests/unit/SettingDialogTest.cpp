@@ -342,6 +342,8 @@ TEST_F(SettingDialogTest, OpenListIsWorkedWithTheKeys) {
   SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
   SendMessageW(box, WM_KEYDOWN, VK_DOWN, 0);
   SendMessageW(box, WM_KEYDOWN, VK_RETURN, 0);
+  SendMessageW(box, WM_CHAR, L'\r', 0);
+  EXPECT_FALSE(SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0));
   EXPECT_EQ(settings_.parentChildrenMax, 50);
   EXPECT_EQ(Text(cmbChildMaxCount), L"  50");
 }
