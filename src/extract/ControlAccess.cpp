@@ -4,8 +4,10 @@ namespace extract {
 
 std::int32_t ControlMessages::Send(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
   // Handles come from controls, too, and none may make this a message to every window there is.
-  if (hwnd == HWND_BROADCAST) return 0;
-  return static_cast<std::int32_t>(SendMessageW(hwnd, message, wParam, lParam));
+  const LRESULT answer = hwnd == HWND_BROADCAST ? 0 : SendMessageW(hwnd, message, wParam, lParam);
+  // A window that is gone answers 0, which is also what many a window answers.
+  if (answer == 0 && !IsWindow(hwnd)) throw TargetLost();
+  return static_cast<std::int32_t>(answer);
 }
 
 DWORD ControlMessages::ProcessOf(HWND hwnd) {

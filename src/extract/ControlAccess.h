@@ -4,10 +4,14 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <exception>
 
 #include "extract/MemoryCalls.h"
 
 namespace extract {
+
+// A control or its process is gone.
+class TargetLost : public std::exception {};
 
 class ControlMessages {
  public:
@@ -16,8 +20,8 @@ class ControlMessages {
   ControlMessages& operator=(const ControlMessages&) = delete;
   virtual ~ControlMessages() = default;
 
-  // Waits as long as the window takes. 0 when there is no such window. Controls answer in 32 bits,
-  // so -1 comes as -1 whatever the bitness of the other side.
+  // Waits as long as the window takes. Controls answer in 32 bits, so -1 comes as -1 whatever the
+  // bitness of the other side. Throws TargetLost when there is no such window.
   virtual std::int32_t Send(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
   // The process of the window; 0 when there is no such window.

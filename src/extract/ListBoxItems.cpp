@@ -22,11 +22,17 @@ struct ListKind {
 constexpr ListKind kListBox{LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT, L"LB_GETTEXT"};
 constexpr ListKind kComboBox{CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT, L"CB_GETLBTEXT"};
 
-constexpr std::int32_t kLeastBuffer = 1024;
+constexpr std::size_t kLeastBuffer = 1024;
 // A length beyond this is not believed.
 constexpr std::int32_t kLongestItem = 1 << 24;
 // An item may have grown between the message that asks for its length and the one for its text.
-constexpr std::int32_t kRoom = 1 << 16;
+constexpr std::size_t kRoom = 1U << 16;
+
+// The characters to keep ready for an item that is said to be that long.
+std::size_t BufferFor(std::int32_t length) {
+  const bool believed = length > 0 && length <= kLongestItem;
+  return std::max(believed ? static_cast<std::size_t>(length) : 0U, kLeastBuffer) + kRoom;
+}
 
 // Failing items neither show progress nor yield, so a control that gives nothing must not keep
 // the reader for as long as its count says.
@@ -43,19 +49,17 @@ class ItemSource {
   // asked for in UTF-16, which is what a control of another process delivers in any case.
   std::optional<std::wstring_view> Item(std::int32_t index) {
     const WPARAM item = static_cast<WPARAM>(index);
-    const std::int32_t length =
-        std::clamp(messages_.Send(hwnd_, kind_.length, item, 0), kLeastBuffer, kLongestItem);
-    buffer_.Reserve(static_cast<std::size_t>(length + kRoom));
-    // Everything that the item before may have left.
-    std::wmemset(buffer_.Data(), L'\0', dirty_);
+    buffer_.Reserve(BufferFor(messages_.Send(hwnd_, kind_.length, item, 0)));
+    // What the item before left.
+    std::wmemset(buffer_.Data(), L'\0', used_);
     const std::int32_t answer =
         messages_.Send(hwnd_, kind_.text, item, reinterpret_cast<LPARAM>(buffer_.Data()));
     const wchar_t* const end = std::wmemchr(buffer_.Data(), L'\0', buffer_.Size());
-    const std::size_t found = static_cast<std::size_t>(
-        (end == nullptr ? buffer_.Data() + buffer_.Size() : end) - buffer_.Data());
-    dirty_ = std::max(static_cast<std::size_t>(length), found);
+    const std::size_t length =
+        end == nullptr ? buffer_.Size() : static_cast<std::size_t>(end - buffer_.Data());
+    used_ = std::max(length, kLeastBuffer);
     if (answer < 0 || end == nullptr) return std::nullopt;
-    return std::wstring_view(buffer_.Data(), found);
+    return std::wstring_view(buffer_.Data(), length);
   }
 
  private:
@@ -63,7 +67,7 @@ class ItemSource {
   HWND hwnd_;
   ControlMessages& messages_;
   platform::GuardedBuffer buffer_;
-  std::size_t dirty_ = 0;
+  std::size_t used_ = 0;
 };
 
 std::wstring ReadItems(const ListKind& kind, HWND hwnd, const platform::ReadSession& session,

@@ -72,6 +72,7 @@ TableSize AskSize(HWND hwnd, ControlMessages& messages) {
   TableSize size{messages.Send(hwnd, LVM_GETITEMCOUNT, 0, 0), 0};
   if (size.rows <= 0) return size;
   const INT_PTR header = messages.Send(hwnd, LVM_GETHEADER, 0, 0);
+  if (header == 0) return size;
   size.columns = messages.Send(reinterpret_cast<HWND>(header), HDM_GETITEMCOUNT, 0, 0);
   return size;
 }

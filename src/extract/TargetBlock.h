@@ -5,15 +5,12 @@
 #include <windows.h>
 
 #include <cstdint>
-#include <exception>
 #include <string>
 
+#include "extract/ControlAccess.h"
 #include "extract/MyMapView.h"
 
 namespace extract {
-
-// Writing to or reading from a target failed: its process has most likely ended.
-class TargetLost : public std::exception {};
 
 struct BlockSize {
   SIZE_T remote;           // bytes, in the target process
@@ -31,7 +28,7 @@ class TargetBlock {
   // In the target; 0 when no block could be obtained, and then nothing may be written or read.
   std::uint32_t Address() const;
 
-  // Throw TargetLost.
+  // Throw TargetLost when the target cannot be written to or read from.
   void Write(const void* data, SIZE_T size);
   void Read(void* data, SIZE_T size) const;
 

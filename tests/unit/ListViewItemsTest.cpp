@@ -46,7 +46,7 @@ class ListViewItemsTest : public testing::Test {
 
   std::int32_t Answer(UINT message, LPARAM record) {
     if (message == kItemCount) return rows_.value_or(static_cast<std::int32_t>(cells_.size()));
-    if (message == kHeader) return 0x5678;
+    if (message == kHeader) return header_;
     if (message == kHeaderItemCount) return columns_;
     if (message != kItem) return 0;
     Fields fields;
@@ -63,6 +63,7 @@ class ListViewItemsTest : public testing::Test {
   std::vector<std::vector<std::wstring>> cells_;
   std::optional<std::int32_t> rows_;
   std::int32_t columns_ = 3;
+  std::int32_t header_ = 0x5678;
   std::vector<Fields> records_;
   bool emptied_ = true;
   std::vector<HWND> accessibleOf_;
@@ -161,6 +162,11 @@ TEST_F(ListViewItemsTest, WithoutColumnsTheAccessibleObjectIsRead) {
     EXPECT_EQ(Read(), L"accessible\r\n");
     EXPECT_EQ(target_.method, L"Accessible");
   }
+  header_ = 0;
+  target_.method.clear();
+  EXPECT_EQ(Read(), L"accessible\r\n");
+  EXPECT_EQ(target_.method, L"Accessible");
+  EXPECT_EQ(target_.messages.Count(kHeaderItemCount), 2) << "no message to no window";
   EXPECT_EQ(target_.messages.Count(kItem), 0);
   EXPECT_THAT(target_.memory.calls, IsEmpty());
 }
