@@ -1,6 +1,52 @@
 #include "accessibility/MyAccessible.h"
 
+#include "accessibility/RoleStateWords.h"
+#include "platform/ErrorReport.h"
+
 namespace MyAccessible {
+namespace {
+
+using TextMember = HRESULT (STDMETHODCALLTYPE IAccessible::*)(VARIANT child, BSTR* text);
+
+std::wstring TextOf(IAccessible* object, TextMember member, const VARIANT& child) {
+  platform::UniqueBstr text;
+  if (FAILED((object->*member)(child, text.Receive()))) return {};
+  return text.Text();
+}
+
+// Objects are not asked for a number: that would call into them once more.
+std::optional<std::int32_t> NumberIn(const VARIANT& value) {
+  switch (value.vt) {
+    case VT_EMPTY:
+    case VT_NULL:
+    case VT_ERROR:
+    case VT_DISPATCH:
+    case VT_UNKNOWN:
+      return std::nullopt;
+    default:
+      break;
+  }
+  platform::UniqueVariant number;
+  // The header lacks the const; the value is only read.
+  auto* const source = const_cast<VARIANT*>(&value);
+  if (FAILED(VariantChangeType(number.Receive(), source, 0, VT_I4))) return std::nullopt;
+  return number.Get().lVal;
+}
+
+std::wstring RoleIn(const VARIANT& role) {
+  if (role.vt == VT_BSTR) return std::wstring(role.bstrVal, SysStringLen(role.bstrVal));
+  const std::optional<std::int32_t> number = NumberIn(role);
+  return number ? std::to_wstring(*number) : std::wstring();
+}
+
+VARIANT MakeLeftOut() {
+  VARIANT child{};
+  child.vt = VT_ERROR;
+  child.scode = DISP_E_PARAMNOTFOUND;
+  return child;
+}
+
+}  // namespace
 
 AccessiblePtr GetAccessibleObj(HWND hwnd) {
   AccessiblePtr object;
@@ -17,22 +63,125 @@ bool GetAccessibleObjAt(POINT point, ObjectAndChild& found) {
   return SUCCEEDED(result) && found.object != nullptr;
 }
 
+AccessiblePtr ObjectIn(const VARIANT& child) {
+  AccessiblePtr object;
+  if (child.vt != VT_DISPATCH || child.pdispVal == nullptr) return object;
+  if (FAILED(child.pdispVal->QueryInterface(IID_IAccessible,
+                                            reinterpret_cast<void**>(object.GetAddressOf())))) {
+    return {};
+  }
+  return object;
+}
+
+bool IsSelf(const VARIANT& child) { return child.vt == VT_I4 && child.lVal == CHILDID_SELF; }
+
+const VARIANT& LeftOut() {
+  static const VARIANT kLeftOut = MakeLeftOut();
+  return kLeftOut;
+}
+
+const VARIANT& Self() {
+  static const platform::UniqueVariant kSelf(CHILDID_SELF);
+  return kSelf.Get();
+}
+
 std::wstring AccName(IAccessible* object, const VARIANT& child) {
-  platform::UniqueBstr name;
-  if (FAILED(object->get_accName(child, name.Receive()))) return {};
-  return name.Text();
+  return TextOf(object, &IAccessible::get_accName, child);
 }
 
 std::wstring AccValue(IAccessible* object, const VARIANT& child) {
-  platform::UniqueBstr value;
-  if (FAILED(object->get_accValue(child, value.Receive()))) return {};
-  return value.Text();
+  return TextOf(object, &IAccessible::get_accValue, child);
+}
+
+std::wstring AccDescription(IAccessible* object, const VARIANT& child) {
+  return TextOf(object, &IAccessible::get_accDescription, child);
+}
+
+std::wstring AccDefaultAction(IAccessible* object, const VARIANT& child) {
+  return TextOf(object, &IAccessible::get_accDefaultAction, child);
+}
+
+std::wstring AccKeyboardShortcut(IAccessible* object, const VARIANT& child) {
+  return TextOf(object, &IAccessible::get_accKeyboardShortcut, child);
+}
+
+std::wstring AccRole(IAccessible* object, const VARIANT& child) {
+  platform::UniqueVariant role;
+  if (FAILED(object->get_accRole(child, role.Receive()))) return {};
+  return RoleIn(role.Get());
+}
+
+std::wstring GetAccRoleText(IAccessible* object, const VARIANT& child) {
+  platform::UniqueVariant role;
+  const HRESULT result = object->get_accRole(child, role.Receive());
+  if (FAILED(result)) {
+    platform::ReportError(L"GetAccRoleText", {result, platform::SystemDescription(result)});
+    return {};
+  }
+  return RoleWord(RoleIn(role.Get()));
+}
+
+std::optional<std::int32_t> AccState(IAccessible* object, const VARIANT& child) {
+  platform::UniqueVariant state;
+  if (FAILED(object->get_accState(child, state.Receive()))) return std::nullopt;
+  return NumberIn(state.Get());
+}
+
+std::wstring AccStateText(IAccessible* object, const VARIANT& child) {
+  return StateWords(static_cast<std::uint32_t>(AccState(object, child).value_or(0)));
+}
+
+std::wstring AccFocus(IAccessible* object) {
+  platform::UniqueVariant focus;
+  const bool some = SUCCEEDED(object->get_accFocus(focus.Receive())) && focus.Get().vt != VT_EMPTY;
+  return some ? L"1" : L"0";
+}
+
+Location AccLocation(IAccessible* object, const VARIANT& child) {
+  long left = 0;
+  long top = 0;
+  long width = 0;
+  long height = 0;
+  if (FAILED(object->accLocation(&left, &top, &width, &height, child))) return {};
+  return {left, top, width, height};
+}
+
+AccessiblePtr AccParent(IAccessible* object) {
+  Microsoft::WRL::ComPtr<IDispatch> dispatch;
+  AccessiblePtr parent;
+  if (FAILED(object->get_accParent(dispatch.GetAddressOf())) || !dispatch) return parent;
+  if (FAILED(dispatch.As(&parent))) return {};
+  return parent;
+}
+
+std::wstring AccChildCount(IAccessible* object) {
+  long count = 0;
+  if (FAILED(object->get_accChildCount(&count))) return {};
+  return std::to_wstring(count);
+}
+
+std::wstring ChildCountText(IAccessible* object, const VARIANT& child) {
+  if (const AccessiblePtr held = ObjectIn(child)) return AccChildCount(held.Get());
+  if (child.vt != VT_I4) return {};
+  return IsSelf(child) ? AccChildCount(object) : L"0";
+}
+
+std::int32_t ChildId(const VARIANT& child) { return child.vt == VT_I4 ? child.lVal : 0; }
+
+std::wstring GetObjectType(IAccessible* object, const VARIANT& child) {
+  if (const AccessiblePtr held = ObjectIn(child)) {
+    const std::wstring count = AccChildCount(held.Get());
+    if (count.empty()) return {};
+    return count == L"0" ? L"Real Object" : L"Container";
+  }
+  if (child.vt == VT_EMPTY) return {};
+  if (!IsSelf(child)) return L"Simple Element";
+  return ChildCountText(object, child).empty() ? L"Real Object" : L"Container";
 }
 
 std::wstring AccNameOfWindow(HWND hwnd) {
   const AccessiblePtr object = GetAccessibleObj(hwnd);
-  const platform::UniqueVariant self(CHILDID_SELF);
-  return object ? AccName(object.Get(), self.Get()) : std::wstring();
+  return object ? AccName(object.Get(), Self()) : std::wstring();
 }
 
 }  // namespace MyAccessible
