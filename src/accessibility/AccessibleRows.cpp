@@ -1,0 +1,97 @@
+#include "accessibility/AccessibleRows.h"
+
+#include <cstdint>
+#include <vector>
+
+#include "accessibility/AccessibleListing.h"
+#include "accessibility/ChildWalk.h"
+#include "accessibility/ListingProgress.h"
+
+namespace MyAccessible {
+namespace {
+
+constexpr std::wstring_view kCrLf = L"\r\n";
+
+// Whatever the setting says: parents that go round in a circle would never end.
+constexpr std::int32_t kMostAncestors = 1000;
+
+// Far outside the screen right and bottom may leave 32 bits.
+std::wstring Edge(std::int32_t start, std::int32_t size) {
+  return std::to_wstring(std::int64_t{start} + size);
+}
+
+std::wstring Quoted(const std::wstring& text) { return L"\"" + text + L"\""; }
+
+RowFacts ReadRow(IAccessible* object, const VARIANT& child, std::int32_t accnameMax) {
+  RowFacts row;
+  row.name = ShortName(AccName(object, child), accnameMax);
+  row.role = AccRole(object, child);
+  if (!row.role.empty()) row.roleText = GetAccRoleText(object, child);
+  row.location = AccLocation(object, child);
+  row.childCount = ChildCountText(object, child);
+  return row;
+}
+
+RowFacts ReadChildRow(IAccessible* object, const VARIANT& child, std::int32_t accnameMax) {
+  const AccessiblePtr held = ObjectIn(child);
+  IAccessible* const owner = held ? held.Get() : object;
+  const VARIANT& inOwner = held ? Self() : child;
+  RowFacts row = ReadRow(owner, inOwner, accnameMax);
+  row.last = AccValue(owner, inOwner);
+  if (held) row.typeName = GetObjectType(object, child);
+  return row;
+}
+
+// The object whose children a report lists; empty for a simple element, which has none.
+AccessiblePtr Parent(IAccessible* object, const VARIANT& child) {
+  return IsSelf(child) ? AccessiblePtr(object) : ObjectIn(child);
+}
+
+}  // namespace
+
+std::wstring RowText(const RowFacts& row) {
+  std::wstring text = L" " + Quoted(row.name) + L"\t" + row.role + L":" + row.roleText + L"\t(" +
+                      std::to_wstring(row.location.left) + L"," +
+                      std::to_wstring(row.location.top) + L"," +
+                      Edge(row.location.left, row.location.width) + L"," +
+                      Edge(row.location.top, row.location.height) + L")\tChildCount=" +
+                      row.childCount + L"\t" + Quoted(row.last);
+  if (!row.typeName.empty()) text += L" TypeName=" + row.typeName;
+  return text.append(kCrLf);
+}
+
+std::wstring AncestorRows(IAccessible* object, const VARIANT& child,
+                          const settings::Settings& settings) {
+  const std::int32_t max = settings.parentChildrenMax;
+  if (max == 0) return {};
+  std::vector<std::wstring> rows;
+  AccessiblePtr ancestor = IsSelf(child) ? AccParent(object) : AccessiblePtr(object);
+  for (std::int32_t i = 0; ancestor && i <= max && i < kMostAncestors; ++i) {
+    RowFacts row = ReadRow(ancestor.Get(), Self(), settings.accnameMax);
+    row.last = AccName(ancestor.Get(), child);
+    rows.push_back(RowText(row));
+    ancestor = AccParent(ancestor.Get());
+  }
+  std::wstring text;
+  for (auto row = rows.rbegin(); row != rows.rend(); ++row) text += *row;
+  return text;
+}
+
+std::wstring ChildRows(IAccessible* object, const VARIANT& child,
+                       const settings::Settings& settings, const platform::ReadSession& session) {
+  const AccessiblePtr parent = Parent(object, child);
+  if (!parent) return {};
+  const ListingProgress progress(session);
+  std::wstring text;
+  std::int32_t listed = 0;
+  ChildWalk walk(parent.Get(), settings.parentChildrenMax);
+  while (const VARIANT* const next = walk.Next()) {
+    if (progress.Interrupted()) return text.append(platform::kInterrupted);
+    if (listed >= settings.parentChildrenMax) return text.append(kRestOmitted).append(kCrLf);
+    text += RowText(ReadChildRow(parent.Get(), *next, settings.accnameMax));
+    progress.Step(++listed);
+  }
+  return text;
+}
+
+}  // namespace MyAccessible
