@@ -1,5 +1,7 @@
 #include "capture/SystemReaders.h"
 
+#include "accessibility/AccessibleListing.h"
+#include "accessibility/AccessibleReport.h"
 #include "accessibility/MyAccessible.h"
 #include "capture/StatusText.h"
 #include "extract/ControlText.h"
@@ -10,6 +12,7 @@
 #include "extract/TabControlItems.h"
 #include "extract/ToolbarItems.h"
 #include "extract/Win32API_Window.h"
+#include "platform/MessagePump.h"
 
 namespace capture {
 namespace {
@@ -64,14 +67,18 @@ class SystemReaders : public ReportReaders {
   std::wstring MyGetComboBoxItem(const CategoryRead& read) override {
     return extract::MyGetComboBoxItem(read.hwnd, read.session, read.method);
   }
-  std::wstring AccessibleChildren(const CategoryRead&) override { return {}; }
+  std::wstring AccessibleChildren(const CategoryRead& read) override {
+    return MyAccessible::ListChildren(read.hwnd, settings_, read.session);
+  }
   std::wstring GetListViewItem(const CategoryRead& read) override {
     std::wstring rows =
         extract::GetListViewItem(read.hwnd, read.session, read.method, settings_.listviewCol,
                                  [&](HWND) { return AccessibleChildren(read); });
     return settings_.listviewCol == kCommaSeparated ? extract::ToCsv(rows) : rows;
   }
-  std::wstring AccessibleTree(const CategoryRead&) override { return {}; }
+  std::wstring AccessibleTree(const CategoryRead& read) override {
+    return MyAccessible::ListTree(read.hwnd, read.point, settings_, read.session);
+  }
   std::wstring GetToolbarItem(const CategoryRead& read) override {
     return extract::GetToolbarItem(read.hwnd, read.session, read.method);
   }
@@ -88,10 +95,18 @@ class SystemReaders : public ReportReaders {
   }
 
   AccessibleTexts Accessible(HWND hwnd, POINT point) override {
-    if (hwnd != nullptr) return {{}, MyAccessible::AccNameOfWindow(hwnd)};
-    MyAccessible::ObjectAndChild found;
-    if (!MyAccessible::GetAccessibleObjAt(point, found)) return {};
-    return {{}, MyAccessible::AccName(found.object.Get(), found.child.Get())};
+    MyAccessible::ReportedWindow window;
+    if (hwnd != nullptr) {
+      const WindowFacts facts = ReadWindowFacts(hwnd);
+      window = {hwnd, facts.className, facts.title};
+    }
+    const HWND target = hwnd;
+    const platform::ReadSession session{target, [](const std::wstring&) {}, platform::Pump,
+                                        [] { return true; }};
+    MyAccessible::AccessibleFacts record;
+    std::wstring report =
+        MyAccessible::GetAccessibleMemberFromPoint(record, window, point, settings_, session);
+    return {std::move(report), record.name};
   }
 
   std::wstring StatusText(HWND target, std::wstring_view className,
