@@ -1,0 +1,33 @@
+// The program with list-type controls, in a process of its own.
+#pragma once
+
+#include <windows.h>
+
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "driver/ChildProcess.h"
+
+namespace cross {
+
+enum class Bits { k32, k64 };
+
+// Whether the system under the tests runs 64-bit programs.
+bool SystemHas64Bits();
+
+class ListFixture {
+ public:
+  // Waits until its controls stand. See fixture/Main.cpp for the words.
+  ListFixture(Bits bits, std::string_view words);
+
+  // The control of that kind. Throws when it was not asked for.
+  HWND operator[](const std::string& kind) const { return controls_.at(kind); }
+  gui::ChildProcess& Process() { return process_; }
+
+ private:
+  gui::ChildProcess process_;
+  std::map<std::string, HWND> controls_;
+};
+
+}  // namespace cross
