@@ -8,6 +8,7 @@
 
 #include "SettingsText.h"
 #include "driver/GuiTest.h"
+#include "driver/Keys.h"
 #include "driver/Pointer.h"
 #include "driver/Program.h"
 #include "driver/Target.h"
@@ -104,6 +105,29 @@ TEST_F(CaptureTest, DisabledControlGivesTheWindowBehindIt) {
   program.StartCapture();
   pointer::MoveTo(fixture["disabled"].Center());
   EXPECT_TRUE(Reports(program, fixture["main"]));
+}
+
+TEST_F(CaptureTest, MessageLineSaysGoUntilTheFirstReport) {
+  const Program program;
+  pointer::MoveTo(program.BottomPane().Center());
+  program.StartCapture();
+  EXPECT_TRUE(program[ui::lblMsg].TextBecomes("Go"));
+  EXPECT_TRUE(program[ui::lblMsg].TextStays("Go", Milliseconds(400)));
+  pointer::Park();
+  EXPECT_TRUE(program[ui::lblMsg].TextBecomes(""));
+}
+
+TEST_F(CaptureTest, RestartOverAnUnmovedPointerReports) {
+  const Fixture fixture(kFixtureWords);
+  const Program program;
+  pointer::MoveTo(fixture["edit"].Center());
+  keys::Stroke({VK_ESCAPE});
+  ASSERT_TRUE(program.TopPane().TextBecomes("入力された文"));
+  keys::Stroke({VK_ESCAPE});
+  ASSERT_TRUE(program[ui::cmdGo].TextBecomes("開始"));
+  fixture["edit"].SetText("再開の後");
+  keys::Stroke({VK_ESCAPE});
+  EXPECT_TRUE(program.TopPane().TextBecomes("再開の後", Milliseconds(2000)));
 }
 
 TEST_F(CaptureTest, MessageLineIsClearedAfterAReport) {

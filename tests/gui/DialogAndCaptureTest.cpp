@@ -56,6 +56,19 @@ TEST_F(DialogAndCaptureTest, CaptureGoesOnWhileTheDialogIsOpen) {
   EXPECT_TRUE(program[ui::cmdGo].TextStays("停止", Milliseconds(200)));
 }
 
+TEST_F(DialogAndCaptureTest, SettingThatShapesTheReportMakesANewOne) {
+  const Fixture fixture("title=t edit=前の文");
+  const Program program({.conf = "setting left = 10500\nsetting top = 1500\nsetting no = 0\n"});
+  program.StartCapture();
+  const DialogWindow dialog = OpenSettings(program);
+  pointer::MoveTo(fixture["edit"].Center());
+  ASSERT_TRUE(program.TopPane().TextBecomes("前の文"));
+  ASSERT_TRUE(program[ui::lblMsg].TextBecomes(""));
+  fixture["edit"].SetText("後の文");
+  dialog[ui::OptListview2].PressButton();
+  EXPECT_TRUE(program.TopPane().TextBecomes("後の文", Milliseconds(5000)));
+}
+
 TEST_F(DialogAndCaptureTest, CaptureStartsAndStopsWhileTheDialogIsOpen) {
   const Program program;
   const DialogWindow dialog = OpenSettings(program);
