@@ -36,8 +36,8 @@ bool Discards(HWND box, Typing typing, UINT message, WPARAM wParam) {
   }
 }
 
-LRESULT CALLBACK BoxProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                              DWORD_PTR typing) noexcept {
+LRESULT CALLBACK BoxProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lParam,
+                              UINT_PTR /*subclass*/, DWORD_PTR typing) noexcept {
   if (Discards(box, static_cast<Typing>(typing), message, wParam)) return 0;
   if (message == WM_NCDESTROY) RemoveWindowSubclass(box, BoxProcedure, kSubclass);
   return DefSubclassProc(box, message, wParam, lParam);

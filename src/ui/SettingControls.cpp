@@ -198,7 +198,7 @@ constexpr SettingControl kControls[] = {
 std::span<const SettingControl> SettingControls() { return kControls; }
 
 const SettingControl* FindSettingControl(int id) {
-  const auto found = std::ranges::find_if(
+  const auto* const found = std::ranges::find_if(
       kControls, [id](const SettingControl& control) { return control.row.id == id; });
   return found == std::end(kControls) ? nullptr : found;
 }

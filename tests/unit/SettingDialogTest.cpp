@@ -39,80 +39,21 @@ class SettingDialogTest : public testing::Test {
   frmSetting dialog_{settings_, state_, [this] { ++closed_; }};
 };
 
-struct Words {
-  int id;
-  const wchar_t* caption;
-  const wchar_t* tip;
-};
-
-constexpr Words kWords[] = {
-    {FrList0, L"各種コントロール情報取得設定", L""},
-    {FrList1, L"HTMLドキュメント", L""},
-    {FrList2, L"MSAA(MS Active Accessibility) 設定", L""},
-    {FrList3, L"その他", L""},
-    {lblButton0, L"コントロール", L""},
-    {lblButton1, L"HTML", L""},
-    {lblButton2, L"MSAA", L""},
-    {lblButton3, L"その他", L""},
-    {chkContinue, L"コピー＆継続 - 上段テキストをクリップボード転送＆継続実行",
-     L"ホットキー押下時に、上段文字列をクリップボードに転送後、連続実行"},
-    {lblAutoStopTime, L"自動停止", L""},
-    {cmbAutoStop, L"", L"マウスの動きが止まってから指定秒後に自動停止（空白は自動停止無し）"},
-    {lblAutoStopNote, L"マウス移動が無くなったら、指定秒後に自動停止", L""},
-    {chkAutoClose, L"自動終了", L"自動で処理を終了します"},
-    {chkChime, L"サウンド", L"停止時にサウンド"},
-    {chkShift, L"目標位置をシフト", L""},
-    {lblShift0, L"X軸（右）方向", L""},
-    {lblShift1, L"Y軸（下）方向", L""},
-    {chkDispTop, L"最前面表示", L"ウィンドウを表示最前面"},
-    {chkToFile, L"制限文字数超過時にファイル出力",
-     L"取得文字数が65000文字を超える時はデスクトップにテキストファイルとして出力する"},
-    {cmdHotKey, L"ホットキーの設定/変更", L"ホットキーの変更"},
-    {lblHotKey, L"F5", L""},
-    {chkAutoStart, L"起動時に開始", L"起動後に即、情報取得を開始します。"},
-    {chkDispText, L"テキスト表示", L"既定はHTMLソース表示"},
-    {lblStLevel, L"表示開始階層", L""},
-    {frClipboard, L"クリップボード転送", L""},
-    {Opt_Clipboard0, L"無し", L"コピー操作以外は転送無し"},
-    {Opt_Clipboard1, L"クリック時",
-     L"クリック時に対象コントロールの全文字列をクリップボードに転送"},
-    {Opt_Clipboard2, L"停止時 上段テキスト",
-     L"[停止]時に自動的に上段テキストボックスの全文字列をクリップボードに転送"},
-    {Opt_Clipboard3, L"停止時 下段テキスト",
-     L"[停止]時に自動的に下段テキストボックスの全文字列をクリップボードに転送"},
-    {frHint, L"ヒントテキスト", L"ポイントした時に表示される文字列"},
-    {OptHint0, L"StatusBar", L"ステータスバーの文字列"},
-    {OptHint1, L"ToolTips", L"ツールチップ（ToolTips）の表示文字列"},
-    {frTreeView, L"ツリービュー", L""},
-    {chkTreeViewIndent, L"インデント表示", L"チェック時：ツリービューを字下げ表示"},
-    {frListview, L"リストビュー", L""},
-    {OptListview0, L"タブ区切り", L"エクセルに直接貼り付けることが出来ます"},
-    {OptListview1, L"カンマ区切り", L"CSVファイルとして利用可"},
-    {OptListview2, L"１列目のみ", L"複数列の場合、2列目以降を無視"},
-    {lblAccNameMax, L"accNameの取得最大長", L""},
-    {lblChildMaxCount, L"AccessiblityでのChild最大取得個数", L""},
-    {cmbChildMaxCount, L"   0",
-     L"MSAA(Microsoft Active Accessibility)でのParent/Child最大取得個数"},
-    {ChkAccFromhWnd, L"ウィンドウハンドルから取得",
-     L"情報をポイント位置のウィンドウハンドルから取得"},
-    {frAct, L"Action Test\u3000\u3000Ctrl キー", L""},
-    {OptAct0, L"None", L""},
-    {OptAct1, L"AccDoDefaultAction", L""},
-    {OptAct2, L"AccSelect 1", L""},
-    {OptAct3, L"AccSelect 2", L""},
-    {cmdClose, L"閉じる", L""},
-};
-
-TEST_F(SettingDialogTest, SaysWhatItSays) {
+TEST_F(SettingDialogTest, ShowsCaptionsAndTipsOfItsTable) {
   Open();
   EXPECT_EQ(WindowText(dialog_.Handle()), L"設定");
-  for (const Words& words : kWords) {
-    EXPECT_EQ(Text(words.id), words.caption) << words.id;
-    EXPECT_EQ(TipOf(dialog_.Handle(), Control(words.id)), words.tip) << words.id;
+  for (const SettingControl& control : SettingControls()) {
+    const HWND window = Control(control.row.id);
+    ASSERT_NE(window, nullptr) << control.row.id;
+    const std::wstring tip = control.toolTip == nullptr ? L"" : control.toolTip;
+    EXPECT_EQ(TipOf(dialog_.Handle(), window), tip) << control.row.id;
+    if (control.row.caption[0] == L'\0') continue;
+    EXPECT_EQ(WindowText(window), control.row.caption) << control.row.id;
   }
+  EXPECT_EQ(Text(lblHotKey), L"F5");
   // The pointer over a list is over the box in it.
   EXPECT_EQ(TipOf(dialog_.Handle(), BoxOfList(Control(cmbAutoStop))),
-            L"マウスの動きが止まってから指定秒後に自動停止（空白は自動停止無し）");
+            FindSettingControl(cmbAutoStop)->toolTip);
 }
 
 TEST_F(SettingDialogTest, IsATopmostDialogAtItsPlace) {
@@ -407,6 +348,26 @@ TEST_F(SettingDialogTest, CloseButtonFollowsTheCorner) {
   EXPECT_EQ(button.bottom, inner.bottom - 10);
   const RECT pageAfter = place(FrList0);
   EXPECT_TRUE(EqualRect(&page, &pageAfter));
+}
+
+TEST_F(SettingDialogTest, ANewDpiScalesEverything) {
+  Open();
+  const RECT suggested{10, 20, 500, 820};
+  SendMessageW(dialog_.Handle(), WM_DPICHANGED, MAKEWPARAM(144, 144),
+               reinterpret_cast<LPARAM>(&suggested));
+  RECT now{};
+  GetWindowRect(dialog_.Handle(), &now);
+  EXPECT_TRUE(EqualRect(&now, &suggested));
+  RECT button{};
+  GetClientRect(Control(lblButton0), &button);
+  EXPECT_NEAR(button.right, 1350 / 10, 1);  // both edges are rounded
+  LOGFONTW font{};
+  GetObjectW(reinterpret_cast<HFONT>(SendMessageW(Control(chkShift), WM_GETFONT, 0, 0)),
+             sizeof font, &font);
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, 144);
+  EXPECT_EQ(font.lfHeight, metrics.lfMessageFont.lfHeight);
 }
 
 TEST_F(SettingDialogTest, ShowingItAgainOpensNoSecondOne) {
