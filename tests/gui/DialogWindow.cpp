@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "driver/Keys.h"
 #include "driver/Pointer.h"
 #include "driver/Text.h"
 #include "driver/Windows.h"
@@ -33,6 +34,24 @@ DialogWindow OpenSettings(const Program& program) {
 DialogWindow OpenHotKeys(const Program& program, const DialogWindow& settings) {
   settings[ui::cmdHotKey].PressButton();
   return {program, "frmOption"};
+}
+
+int FocusOf(const DialogWindow& dialog) {
+  GUITHREADINFO info = {};
+  info.cbSize = sizeof info;
+  GetGUIThreadInfo(GetWindowThreadProcessId(dialog.Window().Handle(), nullptr), &info);
+  if (info.hwndFocus == nullptr) return 0;
+  // The box in a drop-down list counts as the list.
+  const HWND parent = GetAncestor(info.hwndFocus, GA_PARENT);
+  const bool inList = Control(parent, "").ClassName() == "ComboBox";
+  return GetDlgCtrlID(inList ? parent : info.hwndFocus);
+}
+
+testing::AssertionResult FocusMovesTo(const DialogWindow& dialog, int id) {
+  return WaitFor("the focus moves to " + std::to_string(id), [&](std::string& seen) {
+    seen = std::to_string(FocusOf(dialog));
+    return FocusOf(dialog) == id;
+  });
 }
 
 int ItemCount(const Control& list) {
@@ -76,6 +95,18 @@ void Choose(const Control& list, int index) {
   ClientToScreen(opened(), &point);
   pointer::Click(point);
   Require(WaitFor("the list is closed", [&](std::string&) { return opened() == nullptr; }));
+}
+
+void Retype(const Control& box, std::initializer_list<WORD> virtualKeys) {
+  box.Click();
+  Require(WaitFor("the box has the focus", [&](std::string&) { return box.HasFocus(); }));
+  keys::Stroke({VK_END}, Milliseconds(20));
+  while (!box.Text().empty()) {
+    const std::string before = box.Text();
+    keys::Stroke({VK_BACK}, Milliseconds(20));
+    Require(WaitFor("a character goes", [&](std::string&) { return box.Text() != before; }));
+  }
+  for (const WORD key : virtualKeys) keys::Stroke({key}, Milliseconds(20));
 }
 
 }  // namespace gui

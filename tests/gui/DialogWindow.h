@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <initializer_list>
 #include <string_view>
 
 #include "driver/Control.h"
@@ -36,6 +37,10 @@ DialogWindow OpenSettings(const Program& program);
 // Opens the hot-key dialog with the button of the settings dialog.
 DialogWindow OpenHotKeys(const Program& program, const DialogWindow& settings);
 
+// The number of the control that has the focus; the box in a drop-down list counts as the list.
+int FocusOf(const DialogWindow& dialog);
+testing::AssertionResult FocusMovesTo(const DialogWindow& dialog, int id);
+
 // Drop-down lists.
 int ItemCount(const Control& list);
 std::string Item(const Control& list, int index);
@@ -44,5 +49,8 @@ int ChosenIndex(const Control& list);
 Control BoxOf(const Control& list);
 // Opens the list with the pointer and clicks its item; waits for every step.
 void Choose(const Control& list, int index);
+
+// Clicks the box, empties it with the backspace key and types.
+void Retype(const Control& box, std::initializer_list<WORD> virtualKeys);
 
 }  // namespace gui

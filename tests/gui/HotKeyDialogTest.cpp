@@ -154,6 +154,12 @@ TEST_F(HotKeyDialogTest, SettingsDialogWaitsForIt) {
   EXPECT_TRUE(Stays(
       "both dialogs stay", [&](std::string&) { return settings.IsOpen() && dialog.IsOpen(); },
       Milliseconds(300)));
+  // The main window's button brings what can be used to the front.
+  SetForegroundWindow(program.Window().Handle());
+  program[ui::cmdSetting].PressButton();
+  EXPECT_TRUE(WaitFor("the hot-key dialog is in front", [&](std::string&) {
+    return GetForegroundWindow() == dialog.Window().Handle();
+  }));
   dialog.Close();
   ASSERT_TRUE(dialog.Closes());
   EXPECT_TRUE(settings.Window().IsEnabled());

@@ -62,6 +62,22 @@ TEST_F(HotKeyTest, ShiftedKeyNeedsShift) {
   EXPECT_TRUE(program[ui::cmdGo].TextBecomes("開始"));
 }
 
+TEST_F(HotKeyTest, ShiftedEscapeWorksOverAnotherProgramAndLeavesEscapeAlone) {
+  const Fixture fixture("title=t edit=x");
+  const Program program({.conf = "hotkey = Shift+ESC\n"});
+  fixture["edit"].Click();
+  ASSERT_TRUE(WaitFor("the fixture has the focus",
+                      [&](std::string&) { return fixture["edit"].HasFocus(); }));
+  keys::Stroke({VK_ESCAPE});
+  EXPECT_TRUE(program[ui::cmdGo].TextStays("開始", Milliseconds(300)));
+  keys::Stroke({VK_SHIFT, VK_ESCAPE});
+  EXPECT_TRUE(program[ui::cmdGo].TextBecomes("停止"));
+  keys::Stroke({VK_ESCAPE});
+  EXPECT_TRUE(program[ui::cmdGo].TextStays("停止", Milliseconds(300)));
+  keys::Stroke({VK_SHIFT, VK_ESCAPE});
+  EXPECT_TRUE(program[ui::cmdGo].TextBecomes("開始"));
+}
+
 TEST_F(HotKeyTest, NoKeyNamedMeansNoKey) {
   const Program program({.conf = "hotkey =\n"});
   keys::Stroke({VK_ESCAPE});

@@ -1,16 +1,12 @@
 // The settings dialog of the running program, worked with pointer and keys.
 #include <windows.h>
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <vector>
 
 #include "DialogWindow.h"
 #include "LayoutCheck.h"
 #include "SettingsText.h"
 #include "driver/GuiTest.h"
-#include "driver/Keys.h"
 #include "driver/Pointer.h"
 #include "driver/Screen.h"
 #include "driver/Target.h"
@@ -34,37 +30,6 @@ class SettingDialogTest : public GuiTest {
     box.Click();
     Require(WaitFor("the box is " + std::string(checked ? "" : "not ") + "checked",
                     [&](std::string&) { return box.IsChecked() == checked; }));
-  }
-
-  // Types into the box after emptying it with the backspace key.
-  static void Retype(const Control& box, std::initializer_list<WORD> virtualKeys) {
-    box.Click();
-    Require(WaitFor("the box has the focus", [&](std::string&) { return box.HasFocus(); }));
-    keys::Stroke({VK_END}, Milliseconds(20));
-    while (!box.Text().empty()) {
-      const std::string before = box.Text();
-      keys::Stroke({VK_BACK}, Milliseconds(20));
-      Require(WaitFor("a character goes", [&](std::string&) { return box.Text() != before; }));
-    }
-    for (const WORD key : virtualKeys) keys::Stroke({key}, Milliseconds(20));
-  }
-
-  static int FocusOf(const DialogWindow& dialog) {
-    GUITHREADINFO info = {};
-    info.cbSize = sizeof info;
-    GetGUIThreadInfo(GetWindowThreadProcessId(dialog.Window().Handle(), nullptr), &info);
-    if (info.hwndFocus == nullptr) return 0;
-    // The box in a drop-down list counts as the list.
-    const HWND parent = GetAncestor(info.hwndFocus, GA_PARENT);
-    const bool inList = Control(parent, "").ClassName() == "ComboBox";
-    return GetDlgCtrlID(inList ? parent : info.hwndFocus);
-  }
-
-  static testing::AssertionResult FocusMovesTo(const DialogWindow& dialog, int id) {
-    return WaitFor("the focus moves to " + std::to_string(id), [&](std::string& seen) {
-      seen = std::to_string(FocusOf(dialog));
-      return FocusOf(dialog) == id;
-    });
   }
 };
 
@@ -242,120 +207,6 @@ TEST_F(SettingDialogTest, CloseButtonKeepsItsCorner) {
   EXPECT_EQ(dialog[ui::cmdClose].Rectangle().bottom, inner.bottom - 10);
   const RECT pageAfter = dialog[ui::FrList0].Rectangle();
   EXPECT_TRUE(EqualRect(&page, &pageAfter));
-}
-
-TEST_F(SettingDialogTest, AutoStopBoxTakesDigitsOnly) {
-  Program program({.conf = "setting no = 3\n"});
-  const DialogWindow dialog = OpenSettings(program);
-  EXPECT_FALSE(dialog[ui::chkAutoClose].IsVisible());
-  EXPECT_FALSE(dialog[ui::chkChime].IsVisible());
-  const Control box = BoxOf(dialog[ui::cmbAutoStop]);
-  Retype(box, {'A', '2', VK_OEM_MINUS, VK_SPACE, '5'});
-  EXPECT_TRUE(dialog[ui::cmbAutoStop].TextBecomes("25"));
-  EXPECT_TRUE(WaitFor("the boxes are shown",
-                      [&](std::string&) { return dialog[ui::chkChime].IsVisible(); }));
-  EXPECT_TRUE(dialog[ui::chkAutoClose].IsVisible());
-  Retype(box, {});
-  EXPECT_TRUE(
-      WaitFor("the boxes go", [&](std::string&) { return !dialog[ui::chkChime].IsVisible(); }));
-  EXPECT_FALSE(dialog[ui::chkAutoClose].IsVisible());
-  Retype(box, {'9'});
-  EXPECT_TRUE(dialog[ui::cmbAutoStop].TextBecomes("9"));
-  Choose(dialog[ui::cmbAutoStop], 0);
-  EXPECT_TRUE(dialog[ui::cmbAutoStop].TextBecomes(""));
-  EXPECT_TRUE(
-      WaitFor("the boxes go", [&](std::string&) { return !dialog[ui::chkChime].IsVisible(); }));
-  ASSERT_EQ(program.CloseAndWait(), 0U);
-  EXPECT_EQ(ValueOf(program.ConfLines(), "auto stop time"), "0");
-}
-
-TEST_F(SettingDialogTest, ChildCountTakesNoKeysButItsListDoes) {
-  Program program({.conf = "setting no = 2\n"});
-  const DialogWindow dialog = OpenSettings(program);
-  const Control list = dialog[ui::cmbChildMaxCount];
-  BoxOf(list).Click();
-  ASSERT_TRUE(FocusMovesTo(dialog, ui::cmbChildMaxCount));
-  for (const int key : {int{'5'}, VK_BACK, VK_DELETE, VK_DOWN, VK_UP, VK_END}) {
-    keys::Stroke({static_cast<WORD>(key)}, Milliseconds(20));
-  }
-  EXPECT_TRUE(list.TextStays("  10", Milliseconds(200)));
-  // By keyboard: open the list, go down, take it.
-  keys::Stroke({VK_MENU, VK_DOWN}, Milliseconds(50));
-  ASSERT_TRUE(WaitFor("the list is open", [&](std::string&) {
-    return SendMessageW(list.Handle(), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
-  }));
-  keys::Stroke({VK_DOWN}, Milliseconds(20));
-  keys::Stroke({VK_RETURN}, Milliseconds(20));
-  EXPECT_TRUE(list.TextBecomes("  50"));
-  EXPECT_TRUE(WaitFor("the list is closed", [&](std::string&) {
-    return SendMessageW(list.Handle(), CB_GETDROPPEDSTATE, 0, 0) == FALSE;
-  }));
-  ASSERT_EQ(program.CloseAndWait(), 0U);
-  EXPECT_EQ(ValueOf(program.ConfLines(), "parent & children max"), "50");
-}
-
-TEST_F(SettingDialogTest, ShiftBoxesTakeNumbersOnly) {
-  Program program({.conf = "setting no = 3\nshift = 1\n"});
-  const DialogWindow dialog = OpenSettings(program);
-  Retype(dialog[ui::txtShift0], {'X', '5', VK_OEM_PERIOD, VK_OEM_MINUS, VK_SPACE});
-  EXPECT_TRUE(dialog[ui::txtShift0].TextBecomes("5-"));
-  Retype(dialog[ui::txtShift1], {VK_OEM_MINUS});
-  EXPECT_TRUE(dialog[ui::txtShift1].TextBecomes("-"));
-  dialog[ui::cmdClose].Click();
-  ASSERT_TRUE(dialog.Closes());
-  ASSERT_EQ(program.CloseAndWait(), 0U);
-  EXPECT_EQ(ValueOf(program.ConfLines(), "shiftx"), "5");
-  EXPECT_EQ(ValueOf(program.ConfLines(), "shifty"), "0");
-}
-
-TEST_F(SettingDialogTest, TabVisitsWhatThePageShows) {
-  const Program program({.conf = "setting no = 3\nshift = 1\n"});
-  const DialogWindow dialog = OpenSettings(program);
-  ASSERT_TRUE(FocusMovesTo(dialog, ui::lblButton3));
-  for (const int next : {ui::chkContinue, ui::cmbAutoStop, ui::chkShift, ui::txtShift0,
-                         ui::txtShift1, ui::chkDispTop, ui::chkToFile, ui::chkAutoStart,
-                         ui::cmdHotKey, ui::cmdClose, ui::lblButton0}) {
-    keys::Stroke({VK_TAB}, Milliseconds(20));
-    ASSERT_TRUE(FocusMovesTo(dialog, next));
-  }
-}
-
-TEST_F(SettingDialogTest, WorksByKeyboardAlone) {
-  Program program({.conf = "hotkey = F9\n"});
-  const DialogWindow dialog = OpenSettings(program);
-  ASSERT_TRUE(FocusMovesTo(dialog, ui::lblButton0));
-  for (const int next : {ui::lblButton1, ui::lblButton2, ui::lblButton3, ui::Opt_Clipboard0}) {
-    keys::Stroke({VK_TAB}, Milliseconds(20));
-    ASSERT_TRUE(FocusMovesTo(dialog, next));
-  }
-  // Arrows choose within a group and stay in it.
-  keys::Stroke({VK_DOWN}, Milliseconds(20));
-  keys::Stroke({VK_DOWN}, Milliseconds(20));
-  ASSERT_TRUE(FocusMovesTo(dialog, ui::Opt_Clipboard2));
-  EXPECT_TRUE(dialog[ui::Opt_Clipboard2].IsChecked());
-  keys::Stroke({VK_UP}, Milliseconds(20));
-  ASSERT_TRUE(FocusMovesTo(dialog, ui::Opt_Clipboard1));
-  for (const int next : {ui::OptHint0, ui::chkTreeViewIndent}) {
-    keys::Stroke({VK_TAB}, Milliseconds(20));
-    ASSERT_TRUE(FocusMovesTo(dialog, next));
-  }
-  keys::Stroke({VK_SPACE}, Milliseconds(20));
-  EXPECT_TRUE(WaitFor("the box is clear",
-                      [&](std::string&) { return !dialog[ui::chkTreeViewIndent].IsChecked(); }));
-  // The space bar on a page button shows its page.
-  for (const int next : {ui::OptHint0, ui::Opt_Clipboard1, ui::lblButton3, ui::lblButton2}) {
-    keys::Stroke({VK_SHIFT, VK_TAB}, Milliseconds(20));
-    ASSERT_TRUE(FocusMovesTo(dialog, next));
-  }
-  keys::Stroke({VK_SPACE}, Milliseconds(20));
-  EXPECT_TRUE(
-      WaitFor("the page is shown", [&](std::string&) { return dialog[ui::FrList2].IsVisible(); }));
-  keys::Stroke({VK_ESCAPE}, Milliseconds(20));
-  EXPECT_TRUE(dialog.Closes());
-  ASSERT_EQ(program.CloseAndWait(), 0U);
-  EXPECT_EQ(ValueOf(program.ConfLines(), "clipboard"), "1");
-  EXPECT_EQ(ValueOf(program.ConfLines(), "treeview indent"), "0");
-  EXPECT_EQ(ValueOf(program.ConfLines(), "setting no"), "2");
 }
 
 TEST_F(SettingDialogTest, TipsAppear) {
