@@ -16,6 +16,10 @@ DWORD ControlMessages::ProcessOf(HWND hwnd) {
   return processId;
 }
 
+DWORD ControlMessages::StyleOf(HWND hwnd) {
+  return static_cast<DWORD>(GetWindowLongPtrW(hwnd, GWL_STYLE));
+}
+
 const ControlAccess& SystemAccess() {
   static ControlMessages messages;
   static const ControlAccess access{messages, MyMapView::SystemMemoryCalls()};

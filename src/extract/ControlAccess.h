@@ -26,6 +26,9 @@ class ControlMessages {
 
   // The process of the window; 0 when there is no such window.
   virtual DWORD ProcessOf(HWND hwnd);
+
+  // The window's style bits; 0 when there is no such window.
+  virtual DWORD StyleOf(HWND hwnd);
 };
 
 struct ControlAccess {

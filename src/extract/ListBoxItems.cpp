@@ -16,11 +16,17 @@ struct ListKind {
   UINT count;
   UINT length;
   UINT text;
+  DWORD ownerDrawn;  // style bits, any of them
+  DWORD hasTexts;    // style bit: texts in spite of that
   const wchar_t* label;
 };
 
-constexpr ListKind kListBox{LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT, L"LB_GETTEXT"};
-constexpr ListKind kComboBox{CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT, L"CB_GETLBTEXT"};
+constexpr ListKind kListBox{LB_GETCOUNT,    LB_GETTEXTLEN,
+                            LB_GETTEXT,     LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE,
+                            LBS_HASSTRINGS, L"LB_GETTEXT"};
+constexpr ListKind kComboBox{CB_GETCOUNT,    CB_GETLBTEXTLEN,
+                             CB_GETLBTEXT,   CBS_OWNERDRAWFIXED | CBS_OWNERDRAWVARIABLE,
+                             CBS_HASSTRINGS, L"CB_GETLBTEXT"};
 
 constexpr std::size_t kLeastBuffer = 1024;
 // A length beyond this is not believed.
@@ -34,6 +40,9 @@ std::size_t BufferFor(std::int32_t length) {
   return std::max(believed ? static_cast<std::size_t>(length) : 0U, kLeastBuffer) + kRoom;
 }
 
+// The length that stands for a value of the owner's, in a 32-bit and in a 64-bit target.
+bool IsDataSize(std::int32_t length) { return length == 4 || length == 8; }
+
 // Failing items neither show progress nor yield, so a control that gives nothing must not keep
 // the reader for as long as its count says.
 constexpr int kMostFailures = 1000;
@@ -41,7 +50,10 @@ constexpr int kMostFailures = 1000;
 class ItemSource {
  public:
   ItemSource(const ListKind& kind, HWND hwnd, ControlMessages& messages)
-      : kind_(kind), hwnd_(hwnd), messages_(messages) {}
+      : kind_(kind), hwnd_(hwnd), messages_(messages) {
+    const DWORD style = messages.StyleOf(hwnd);
+    givesData_ = (style & kind.ownerDrawn) != 0 && (style & kind.hasTexts) == 0;
+  }
 
   std::int32_t Count() const { return messages_.Send(hwnd_, kind_.count, 0, 0); }
 
@@ -49,7 +61,9 @@ class ItemSource {
   // asked for in UTF-16, which is what a control of another process delivers in any case.
   std::optional<std::wstring_view> Item(std::int32_t index) {
     const WPARAM item = static_cast<WPARAM>(index);
-    buffer_.Reserve(BufferFor(messages_.Send(hwnd_, kind_.length, item, 0)));
+    const std::int32_t told = messages_.Send(hwnd_, kind_.length, item, 0);
+    if (givesData_ && IsDataSize(told)) return std::nullopt;
+    buffer_.Reserve(BufferFor(told));
     // What the item before left.
     std::wmemset(buffer_.Data(), L'\0', used_);
     const std::int32_t answer =
@@ -66,6 +80,7 @@ class ItemSource {
   const ListKind& kind_;
   HWND hwnd_;
   ControlMessages& messages_;
+  bool givesData_;  // the text message gives a value of the owner's in place of a text
   platform::GuardedBuffer buffer_;
   std::size_t used_ = 0;
 };

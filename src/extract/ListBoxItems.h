@@ -11,7 +11,8 @@
 namespace extract {
 
 // One item a line, each ended by CR LF. Progress is the item's number from 0, "/", the last item's
-// number. An item that the control does not give is left out. Stops before an item, with the mark
+// number. An item that the control does not give, or has no text for because its owner draws it
+// from data of its own, is left out. Stops before an item, with the mark
 // of an interruption, when the session's target is no longer hwnd. method becomes "LB_GETTEXT" or
 // "CB_GETLBTEXT", also for a control without items.
 std::wstring MyGetListBoxItem(HWND hwnd, const platform::ReadSession& session, std::wstring& method,

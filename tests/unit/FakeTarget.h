@@ -189,6 +189,7 @@ class FakeMessages : public extract::ControlMessages {
     askedProcessOf = hwnd;
     return 77;
   }
+  DWORD StyleOf(HWND) override { return style; }
 
   int Count(UINT message) const {
     int count = 0;
@@ -198,6 +199,7 @@ class FakeMessages : public extract::ControlMessages {
 
   std::function<std::int32_t(UINT, WPARAM, LPARAM)> answer = [](UINT, WPARAM, LPARAM) { return 0; };
   std::vector<Sent> sent;
+  DWORD style = 0;
   HWND askedProcessOf = nullptr;
 };
 

@@ -26,6 +26,7 @@ struct Kind {
   UINT length;
   UINT text;
   const wchar_t* label;
+  DWORD hasTexts;
 };
 
 class ListBoxItemsTest : public testing::TestWithParam<Kind> {
@@ -152,6 +153,23 @@ TEST_P(ListBoxItemsTest, AHugeLengthIsNotBelieved) {
   EXPECT_EQ(Read(), L"one\r\ntwo\r\n");
 }
 
+TEST_P(ListBoxItemsTest, ValuesOfAnOwnerThatDrawsTheItemsAreNoTexts) {
+  items_ = {L"\x47E0|", L"\x68A0|", L"a text of another length"};
+  claimedLength_ = 4;
+  for (const DWORD ownerDrawn : {0x10U, 0x20U}) {
+    target_.messages.style = ownerDrawn;
+    EXPECT_EQ(Read(), L"");
+    EXPECT_EQ(target_.method, GetParam().label);
+    target_.messages.style = ownerDrawn | GetParam().hasTexts;
+    EXPECT_NE(Read(), L"");
+  }
+  EXPECT_NE(Read(), L"");
+  target_.messages.style = 0x10;
+  claimedLength_.reset();
+  items_ = {L"five5", L"four"};
+  EXPECT_EQ(Read(), L"five5\r\n");
+}
+
 TEST_P(ListBoxItemsTest, AControlThatGivesNothingDoesNotKeepTheReader) {
   claimedCount_ = INT32_MAX;
   items_ = {L"one"};
@@ -199,8 +217,8 @@ TEST_P(ListBoxItemsTest, AFailureKeepsWhatWasReadAndShowsNothing) {
 }
 
 constexpr Kind kKinds[] = {
-    {"ListBox", MyGetListBoxItem, 0x18B, 0x18A, 0x189, L"LB_GETTEXT"},
-    {"ComboBox", MyGetComboBoxItem, 0x146, 0x149, 0x148, L"CB_GETLBTEXT"},
+    {"ListBox", MyGetListBoxItem, 0x18B, 0x18A, 0x189, L"LB_GETTEXT", LBS_HASSTRINGS},
+    {"ComboBox", MyGetComboBoxItem, 0x146, 0x149, 0x148, L"CB_GETLBTEXT", CBS_HASSTRINGS},
 };
 
 INSTANTIATE_TEST_SUITE_P(Kinds, ListBoxItemsTest, testing::ValuesIn(kKinds),
