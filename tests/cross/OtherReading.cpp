@@ -1,0 +1,172 @@
+#include "OtherReading.h"
+
+#include <commctrl.h>
+
+#include <cstdint>
+#include <stdexcept>
+#include <string_view>
+#include <vector>
+
+#include "Reading.h"
+#include "driver/Owners.h"
+
+namespace cross {
+namespace {
+
+constexpr std::size_t kTextAt = 256;  // the record stands before the text
+constexpr std::size_t kTextLength = 8192;
+
+int Ask(HWND control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+  DWORD_PTR answer = 0;
+  if (!SendMessageTimeoutW(control, message, wParam, lParam, SMTO_NORMAL, 20'000, &answer)) {
+    throw std::runtime_error("the control does not answer");
+  }
+  return static_cast<int>(answer);
+}
+
+// A record and a text in the process of a control.
+class Room {
+ public:
+  explicit Room(HWND control) {
+    DWORD processId = 0;
+    GetWindowThreadProcessId(control, &processId);
+    process_.reset(OpenProcess(PROCESS_ALL_ACCESS, FALSE, processId));
+    base_ = VirtualAllocEx(process_.get(), nullptr, kTextAt + 2 * kTextLength, MEM_COMMIT,
+                           PAGE_READWRITE);
+    if (base_ == nullptr) throw std::runtime_error("no room in the target");
+  }
+  ~Room() { VirtualFreeEx(process_.get(), base_, 0, MEM_RELEASE); }
+  Room(const Room&) = delete;
+  Room& operator=(const Room&) = delete;
+
+  LPARAM Record() const { return reinterpret_cast<LPARAM>(base_); }
+  std::uint32_t Text() const { return static_cast<std::uint32_t>(Record()) + kTextAt; }
+
+  void Put(const std::vector<std::uint32_t>& record) const {
+    std::vector<char> bytes(kTextAt + 2 * kTextLength);
+    std::copy_n(reinterpret_cast<const char*>(record.data()), record.size() * 4, bytes.data());
+    WriteProcessMemory(process_.get(), base_, bytes.data(), bytes.size(), nullptr);
+  }
+  std::wstring TakeText(std::size_t at = kTextAt) const {
+    std::vector<wchar_t> text(kTextLength);
+    ReadProcessMemory(process_.get(), static_cast<const char*>(base_) + at, text.data(),
+                      2 * (kTextLength - 1), nullptr);
+    return text.data();
+  }
+  std::uint32_t TakeField(std::size_t index) const {
+    std::uint32_t field = 0;
+    ReadProcessMemory(process_.get(), static_cast<const char*>(base_) + 4 * index, &field, 4,
+                      nullptr);
+    return field;
+  }
+
+ private:
+  gui::OwnedHandle process_;
+  void* base_;
+};
+
+// Lists whose owner draws the items may hold values of the owner's in place of texts.
+bool HoldsTexts(HWND control, LONG_PTR hasTexts) {
+  const LONG_PTR style = GetWindowLongPtrW(control, GWL_STYLE);
+  return (style & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) == 0 || (style & hasTexts) != 0;
+}
+
+std::wstring ListItems(HWND control, UINT count, UINT length, UINT text) {
+  std::wstring result;
+  const int items = Ask(control, count);
+  for (int i = 0; i < items; ++i) {
+    const WPARAM item = static_cast<WPARAM>(i);
+    std::vector<wchar_t> buffer(static_cast<std::size_t>(Ask(control, length, item)) + 1000);
+    Ask(control, text, item, reinterpret_cast<LPARAM>(buffer.data()));
+    result += buffer.data();
+    result += L"\r\n";
+  }
+  return result;
+}
+
+std::wstring ListBoxItems(HWND control) {
+  if (!HoldsTexts(control, LBS_HASSTRINGS)) return {};
+  return ListItems(control, LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT);
+}
+
+std::wstring ComboBoxItems(HWND control) {
+  if (!HoldsTexts(control, CBS_HASSTRINGS)) return {};
+  return ListItems(control, CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT);
+}
+
+std::wstring ListViewItems(HWND control) {
+  const int rows = Ask(control, LVM_GETITEMCOUNT);
+  HWND header = FindWindowExW(control, nullptr, WC_HEADERW, nullptr);
+  const int columns = header == nullptr ? 0 : Ask(header, HDM_GETITEMCOUNT);
+  const Room room(control);
+  std::wstring result;
+  bool any = false;
+  for (int row = 0; row < rows; ++row) {
+    for (int column = 0; column < columns; ++column) {
+      room.Put({0, 0, static_cast<std::uint32_t>(column), 0, 0, room.Text(), kTextLength});
+      Ask(control, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), room.Record());
+      const std::wstring cell = ThroughBlock(room.TakeText(), 256);
+      any = any || !cell.empty();
+      result += (column > 0 ? L"\t" : L"") + cell;
+    }
+    result += L"\r\n";
+  }
+  return any || rows == 0 ? result : L"accessible";
+}
+
+std::wstring ToolbarTexts(HWND control) {
+  const Room room(control);
+  std::wstring result;
+  const int buttons = Ask(control, TB_BUTTONCOUNT);
+  for (int i = 0; i < buttons; ++i) {
+    room.Put({});
+    Ask(control, TB_GETBUTTON, static_cast<WPARAM>(i), room.Record());
+    const std::uint32_t command = room.TakeField(1);
+    room.Put({});
+    if (Ask(control, TB_GETBUTTONTEXTW, command, room.Record()) <= 0) continue;
+    result += ThroughBlock(room.TakeText(0), 121) + L"\r\n";
+  }
+  return result;
+}
+
+std::wstring TabCaptions(HWND control) {
+  const Room room(control);
+  std::wstring result;
+  const int tabs = Ask(control, TCM_GETITEMCOUNT);
+  for (int i = 0; i < tabs; ++i) {
+    room.Put({TCIF_TEXT, 0, 0, room.Text(), kTextLength});
+    Ask(control, TCM_GETITEMW, static_cast<WPARAM>(i), room.Record());
+    result += ThroughBlock(room.TakeText(), 255) + L"\r\n";
+  }
+  return result;
+}
+
+struct Row {
+  std::string_view className;
+  const char* kind;
+  std::wstring (*read)(HWND control);
+};
+
+constexpr Row kRows[] = {
+    {"ListBox", "listbox", ListBoxItems},         {"ComboBox", "dropdown", ComboBoxItems},
+    {"SysListView32", "listview", ListViewItems}, {"ToolbarWindow32", "toolbar", ToolbarTexts},
+    {"SysTabControl32", "tabs", TabCaptions},
+};
+
+}  // namespace
+
+std::string KindOfClass(const std::string& className) {
+  for (const Row& row : kRows) {
+    if (row.className == className) return row.kind;
+  }
+  return {};
+}
+
+std::wstring ReadOtherwise(const std::string& kind, HWND control) {
+  for (const Row& row : kRows) {
+    if (kind == row.kind) return row.read(control);
+  }
+  throw std::out_of_range("no such kind of control");
+}
+
+}  // namespace cross
