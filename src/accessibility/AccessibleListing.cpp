@@ -16,7 +16,7 @@ constexpr std::wstring_view kCutMark = L".......";
 
 // The limits below keep an object that never ends from holding the program for ever.
 constexpr std::int32_t kDeepest = 64;
-constexpr std::int32_t kMostNameless = 10'000;
+constexpr std::int32_t kMostNameless = 1'000;
 constexpr std::int32_t kMostTreeItems = 65'536;
 
 constexpr int kMostStepsBack = 20;
