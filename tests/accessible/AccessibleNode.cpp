@@ -145,17 +145,22 @@ HRESULT Node::get_accFocus(VARIANT* child) {
   return S_OK;
 }
 
+void Node::Perform(const std::string& action) {
+  actions.push_back(action);
+  if (onAction) onAction(action);
+}
+
 HRESULT Node::accSelect(long flags, VARIANT child) {
   if (const HRESULT failure = Enter("accSelect", child); failure != S_OK) return failure;
   if (Of(child) == nullptr) return E_INVALIDARG;
-  actions.push_back("select " + std::to_string(flags) + " " + ChildWord(child));
+  Perform("select " + std::to_string(flags) + " " + ChildWord(child));
   return S_OK;
 }
 
 HRESULT Node::accDoDefaultAction(VARIANT child) {
   if (const HRESULT failure = Enter("accDoDefaultAction", child); failure != S_OK) return failure;
   if (Of(child) == nullptr) return E_INVALIDARG;
-  actions.push_back("default " + ChildWord(child));
+  Perform("default " + ChildWord(child));
   return S_OK;
 }
 

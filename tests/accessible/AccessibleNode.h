@@ -49,6 +49,7 @@ class Node : public IAccessible, private IEnumVARIANT {
   bool enumerates = false;                  // offers IEnumVARIANT
   bool hasFocus = false;
   std::function<void(const std::string& member)> onCall;
+  std::function<void(const std::string& action)> onAction;
 
   // Every call of a member: its name, and the child it was asked for ("-" for none left out).
   std::vector<std::string> calls;
@@ -104,6 +105,7 @@ class Node : public IAccessible, private IEnumVARIANT {
     Node* object;  // null: a simple element
   };
 
+  void Perform(const std::string& action);
   // Notes the call; what the member shall fail with, or S_OK.
   HRESULT Enter(const char* member, const std::string& detail);
   HRESULT Enter(const char* member, const VARIANT& child);
