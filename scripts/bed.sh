@@ -71,13 +71,31 @@ start_display() {
   export DISPLAY
 }
 
-# A server that stays, and one program behind it. That program starts the system's own processes,
-# which keep the output they were started with: a test that had to start them would never be seen
-# to end by whoever reads its output.
+# A server that stays, and a command interpreter that keeps the desktop in use. Without it the first
+# program with a window would start the desktop's own process, which keeps that program's error
+# output open for as long as the desktop is used: the program would never be seen to end by whoever
+# reads its output. The interpreter's input is a pipe that it can write itself, so it has no end.
 start_wine() {
-  wineserver -k 2>/dev/null || true
-  wineserver -p 2>/dev/null
-  wine cmd /c exit </dev/null >/dev/null 2>&1
+  local ready=$WINEPREFIX/desktop-ready attempt deadline
+  # On a busy machine the first program of a server now and then waits for ever; the next server
+  # is as good.
+  for attempt in 1 2 3; do
+    rm -f "$ready"
+    wineserver -k 2>/dev/null || true
+    wineserver -w 2>/dev/null || true
+    wineserver -p 2>/dev/null
+    # rundll32 makes a window; the procedure that it calls does nothing.
+    wine cmd >/dev/null 2>&1 0<> <(
+      echo "start /wait rundll32 user32.dll,DefWindowProcW & echo ready >\"Z:${ready//\//\\}\""
+    ) &
+    deadline=$((SECONDS + 20 * attempt))
+    while ((SECONDS <= deadline)); do
+      [[ -s $ready ]] && return
+      sleep 0.05
+    done
+  done
+  echo "The desktop in $WINEPREFIX did not start." >&2
+  return 1
 }
 
 end_bed() {
@@ -108,9 +126,12 @@ serve() {
   [[ $desktop == yes ]] || start_display
   if [[ $cp1252 == yes ]]; then
     WINEARCH=win32 LC_ALL=C.UTF-8 WINEPREFIX=$VELMORA_PREFIX_1252 start_wine &
+    local other_start=$!
+    start_wine
+    wait "$other_start"
+  else
+    start_wine
   fi
-  start_wine
-  [[ $cp1252 == no ]] || wait $!
 
   # In the background, so that a signal ends the bed at once and not only after the command.
   local status=0
