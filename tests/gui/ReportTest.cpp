@@ -1,0 +1,165 @@
+// The whole report on programs that nobody here wrote: list text, window information, status text.
+#include <windows.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "driver/GuiTest.h"
+#include "driver/Paths.h"
+#include "driver/Pointer.h"
+#include "driver/Program.h"
+#include "driver/Screen.h"
+#include "driver/Target.h"
+#include "driver/Text.h"
+#include "driver/Windows.h"
+#include "ui/ControlIds.h"
+
+namespace gui {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+std::string Hexadecimal(HWND window) {
+  char digits[16] = {};
+  std::snprintf(digits, sizeof digits, "%X",
+                static_cast<unsigned>(reinterpret_cast<UINT_PTR>(window)));
+  return digits;
+}
+
+std::string Place(const Control& window) {
+  const RECT at = window.Rectangle();
+  return "(" + std::to_string(at.left) + "," + std::to_string(at.top) + "," +
+         std::to_string(at.right) + "," + std::to_string(at.bottom) + ")";
+}
+
+class ReportTest : public GuiTest {
+ protected:
+  // Points there and waits for the end of the report on the window under it.
+  static Control PointAt(const Program& program, POINT point) {
+    pointer::MoveTo(point);
+    const Control target(WindowFromPoint(point), "the target");
+    Require(program[ui::txthWnd].TextBecomes(target.HandleText()));
+    Require(program[ui::lblMsg].TextBecomes(""));
+    return target;
+  }
+
+  static std::string ArgumentFor(const std::string& text, const wchar_t* name) {
+    const std::filesystem::path file = FreshFolder() / name;
+    std::ofstream(file, std::ios::binary) << ToCodePage(text);
+    return ToUtf8(file.wstring());
+  }
+};
+
+TEST_F(ReportTest, NotepadsEditAndStatusBar) {
+  const std::string text = "一行目\r\n二行目";
+  const WineProgram notepad("notepad.exe", ArgumentFor(text, L"二行.txt"), "Notepad");
+  notepad.MoveTo(30, 30, 560, 420);
+  const Program program;
+  program.StartCapture();
+  PointAt(program, notepad.Inside("Edit").Center());
+  EXPECT_TRUE(program.TopPane().TextBecomes(text));
+  EXPECT_TRUE(program.BottomPane().TextBecomes(text));
+  EXPECT_TRUE(program[ui::lblTextKind].TextBecomes("Accessible"));
+  const std::string status = notepad.Inside("msctls_statusbar32").Text();
+  ASSERT_NE(status, "");
+  EXPECT_TRUE(program[ui::txtStatus].TextBecomes(status));
+}
+
+TEST_F(ReportTest, NotepadsWindowInformation) {
+  const WineProgram notepad("notepad.exe", ArgumentFor("本文", L"情報.txt"), "Notepad");
+  notepad.MoveTo(30, 30, 560, 420);
+  const Program program({.conf = "detail = 1\n"});
+  program.StartCapture();
+  const Control edit = PointAt(program, notepad.Inside("Edit").Center());
+  const std::string handle = edit.HandleText();
+  EXPECT_TRUE(program.BottomPane().TextBecomes(
+      "ウィンドウ情報\r\n"
+      "--------------------------------------\r\n"
+      "ハンドル　　　：" +
+      handle + "(x" + Hexadecimal(edit.Handle()) +
+      ")\r\n"
+      "クラス名　　　：Edit\r\n"
+      "タイトル　　　：\r\n"
+      "位置(左上右下)：" +
+      Place(edit) +
+      "\r\n"
+      "\r\n"
+      "オーナー　　  ：\r\n"
+      "\r\n"
+      "親ウィンドウ  ： top → bottom\r\n"
+      " hWnd\tClassName\t(Location)\t\tTitle \r\n"
+      " -----------------------------------------------------------------------\r\n"
+      " " +
+      notepad.Window().HandleText() + "\tNotepad\t" + Place(notepad.Window()) + "\t \"" +
+      notepad.Window().Text() +
+      "\"\r\n"
+      "\r\n"
+      "子ウィンドウ\r\n"
+      "\r\n"
+      "ハンドル クラス名               位置(左,上,右,下)    表示文字\r\n"
+      "-------------------------------------------------------------\r\n"));
+}
+
+TEST_F(ReportTest, ChildrenOfNotepadInHexadecimal) {
+  const WineProgram notepad("notepad.exe", ArgumentFor("本文", L"子.txt"), "Notepad");
+  notepad.MoveTo(30, 30, 560, 420);
+  const Program program({.conf = "detail = 1\nwin handle = hex\n"});
+  program.StartCapture();
+  const RECT at = notepad.Window().Rectangle();
+  pointer::MoveTo({at.left + 80, at.top + 12});
+  Require(program[ui::txthWnd].TextBecomes(Hexadecimal(notepad.Window().Handle())));
+  Require(program[ui::lblMsg].TextBecomes(""));
+  const Control edit = notepad.Inside("Edit");
+  const std::string digits = "x" + Hexadecimal(edit.Handle());
+  const std::string line = std::string(8 - digits.size(), ' ') + digits +
+                           " Edit                      " + Place(edit) + "  \r\n";
+  EXPECT_THAT(program.BottomPane().Text(), HasSubstr(line));
+}
+
+TEST_F(ReportTest, TaskManagersTabsAndStatusBar) {
+  const WineProgram taskmgr("taskmgr.exe", "", "#32770");
+  taskmgr.MoveTo(30, 30, 0, 0);
+  const Program program;
+  program.StartCapture();
+  const Control tabs = taskmgr.Inside("SysTabControl32");
+  const RECT at = tabs.Rectangle();
+  PointAt(program, {at.left + 20, at.top + 10});
+  EXPECT_TRUE(program[ui::txtWin0].TextBecomes("SysTabControl32"));
+  EXPECT_THAT(program.BottomPane().Text(), testing::Not(testing::IsEmpty()));
+  EXPECT_THAT(program.BottomPane().Text(), testing::EndsWith("\r\n"));
+  SaveScreenshot("taskmgr");
+}
+
+TEST_F(ReportTest, WordPadsRichEdit) {
+  const WineProgram write("..\\Program Files\\Windows NT\\Accessories\\wordpad.exe", "",
+                          "WORDPADTOP");
+  write.MoveTo(20, 20, 600, 420);
+  const Control edit = write.Inside("RichEdit20W");
+  edit.SetText("書式のある文字");
+  const Program program;
+  program.StartCapture();
+  PointAt(program, edit.Center());
+  EXPECT_TRUE(program.BottomPane().TextBecomes("書式のある文字"));
+  SaveScreenshot("wordpad");
+}
+
+// Its items are drawn by the program itself, there are no texts to read.
+TEST_F(ReportTest, FileManagersListBoxWithoutTexts) {
+  const WineProgram winefile("winefile.exe", "", "WFS_Frame");
+  winefile.MoveTo(20, 20, 600, 420);
+  const Program program;
+  program.StartCapture();
+  const Control list = winefile.Inside("ListBox");
+  ASSERT_EQ(list.Style() & LBS_HASSTRINGS, 0);
+  PointAt(program, list.Center());
+  EXPECT_TRUE(program[ui::txtWin0].TextBecomes("ListBox"));
+  EXPECT_TRUE(program.BottomPane().TextBecomes(""));
+  SaveScreenshot("winefile");
+}
+
+}  // namespace
+}  // namespace gui
