@@ -6,9 +6,10 @@ target_compile_definitions(velmora_flags INTERFACE
   WINVER=0x0A00 _WIN32_WINNT=0x0A00
   $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 
+# GCC 12 sees overlapping copies in plain string concatenations where there are none (-Wrestrict).
 target_compile_options(velmora_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
-  -Wold-style-cast -Woverloaded-virtual
+  -Wold-style-cast -Woverloaded-virtual -Wno-restrict
   -finput-charset=UTF-8 -ffunction-sections -fdata-sections
   $<$<CONFIG:Debug>:-fsanitize=undefined> $<$<CONFIG:Debug>:-fsanitize-undefined-trap-on-error>
   $<$<BOOL:${VELMORA_WERROR}>:-Werror>)
