@@ -294,19 +294,21 @@ TEST_F(CaptureTest, WrapBoxHandsTextsAndHeightToTheOtherPanes) {
   program.StopCapture();
   const std::string bottom = program.BottomPane().Text();
 
+  const auto showsMember = [&](int wrapping) {
+    return program[ui::txtWinTextT0 + wrapping].IsVisible() &&
+           program[ui::txtWinTextB0 + wrapping].IsVisible() &&
+           !program[ui::txtWinTextT1 - wrapping].IsVisible() &&
+           !program[ui::txtWinTextB1 - wrapping].IsVisible();
+  };
   program[ui::chkTurnBack].PressButton();
-  ASSERT_TRUE(WaitFor("the wrapping pane shows", [&](std::string&) {
-    return program[ui::txtWinTextT1].IsVisible() && !program[ui::txtWinTextT0].IsVisible();
-  }));
-  EXPECT_TRUE(program[ui::txtWinTextB1].IsVisible());
-  EXPECT_FALSE(program[ui::txtWinTextB0].IsVisible());
+  ASSERT_TRUE(WaitFor("the wrapping panes show", [&](std::string&) { return showsMember(1); }));
   EXPECT_TRUE(program.TopPane().TextBecomes("一行目\r\n二行目"));
   EXPECT_TRUE(program.BottomPane().TextBecomes(bottom));
-  EXPECT_EQ(program.TopPane().Size().cy, 1650 / 15);
+  EXPECT_TRUE(TextBecomes("the top pane's height", std::to_string(1650 / 15),
+                          [&] { return std::to_string(program.TopPane().Size().cy); }));
 
   program[ui::chkTurnBack].PressButton();
-  EXPECT_TRUE(WaitFor("the scrolling pane shows again",
-                      [&](std::string&) { return program[ui::txtWinTextT0].IsVisible(); }));
+  EXPECT_TRUE(WaitFor("the scrolling panes show", [&](std::string&) { return showsMember(0); }));
 }
 
 TEST_F(CaptureTest, SecondPanesWrapAndFirstPanesScroll) {

@@ -1,6 +1,7 @@
 #include "driver/Target.h"
 
 #include <filesystem>
+#include <memory>
 #include <stdexcept>
 
 #include "driver/Paths.h"
@@ -16,13 +17,31 @@ std::string FixtureWords(std::string_view words) {
   return "parent=" + std::to_string(GetCurrentProcessId()) + " deadline=120 " + std::string(words);
 }
 
-std::filesystem::path SystemProgram(std::string_view name) {
-  wchar_t folder[MAX_PATH] = {};
-  GetSystemDirectoryW(folder, MAX_PATH);
-  const std::filesystem::path inSystem = std::filesystem::path(folder) / ToWide(name);
-  if (std::filesystem::exists(inSystem)) return inSystem;
-  GetWindowsDirectoryW(folder, MAX_PATH);
-  return std::filesystem::path(folder) / ToWide(name);
+// A 32-bit process sees the 32-bit twins of the system's programs, and some of those only start
+// the real program and wait. Does nothing on a 32-bit system.
+class RealSystemFolder {
+ public:
+  RealSystemFolder() { Wow64DisableWow64FsRedirection(&before_); }
+  ~RealSystemFolder() { Wow64RevertWow64FsRedirection(before_); }
+  RealSystemFolder(const RealSystemFolder&) = delete;
+  RealSystemFolder& operator=(const RealSystemFolder&) = delete;
+
+ private:
+  void* before_ = nullptr;
+};
+
+std::unique_ptr<ChildProcess> StartSystemProgram(std::string_view name,
+                                                 std::string_view arguments) {
+  wchar_t windows[MAX_PATH] = {};
+  GetWindowsDirectoryW(windows, MAX_PATH);
+  const std::filesystem::path root(windows);
+  const RealSystemFolder seen;
+  for (const std::filesystem::path& folder : {root, root / L"system32"}) {
+    const std::filesystem::path program = folder / ToWide(name);
+    if (!std::filesystem::exists(program)) continue;
+    return std::make_unique<ChildProcess>(program, arguments, root);
+  }
+  throw std::runtime_error("no such program: " + std::string(name));
 }
 
 }  // namespace
@@ -56,8 +75,8 @@ void Fixture::Hang(Milliseconds time) const {
 
 WineProgram::WineProgram(std::string_view program, std::string_view arguments,
                          std::string_view className)
-    : process_(SystemProgram(program), arguments, SystemProgram(program).parent_path()),
-      window_(WaitForWindow(process_, className)) {}
+    : process_(StartSystemProgram(program, arguments)),
+      window_(WaitForWindow(*process_, className)) {}
 
 Control WineProgram::Inside(std::string_view className) const {
   HWND found = nullptr;

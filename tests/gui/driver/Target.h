@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -46,7 +47,7 @@ class WineProgram {
   void MoveTo(int left, int top, int width, int height) const;
 
  private:
-  ChildProcess process_;
+  std::unique_ptr<ChildProcess> process_;
   HWND window_;
 };
 
