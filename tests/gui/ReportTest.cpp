@@ -39,11 +39,11 @@ std::string Place(const Control& window) {
 class ReportTest : public GuiTest {
  protected:
   // Points there and waits for the end of the report on the window under it.
-  static Control PointAt(const Program& program, POINT point) {
+  static Control PointAt(const Program& program, POINT point, Milliseconds patience = kPatience) {
     pointer::MoveTo(point);
     const Control target(WindowFromPoint(point), "the target");
     Require(program[ui::txthWnd].TextBecomes(target.HandleText()));
-    Require(program[ui::lblMsg].TextBecomes(""));
+    Require(program[ui::lblMsg].TextBecomes("", patience));
     return target;
   }
 
@@ -159,6 +159,71 @@ TEST_F(ReportTest, FileManagersListBoxWithoutTexts) {
   EXPECT_TRUE(program[ui::txtWin0].TextBecomes("ListBox"));
   EXPECT_TRUE(program.BottomPane().TextBecomes(""));
   SaveScreenshot("winefile");
+}
+
+// The list of everybody who worked on Wine: almost two thousand items.
+class LongListTest : public ReportTest {
+ protected:
+  static std::string Item(const Control& list, int index) {
+    const auto length = SendMessageW(list.Handle(), LB_GETTEXTLEN, static_cast<WPARAM>(index), 0);
+    std::wstring text(static_cast<std::size_t>(length) + 1, L'\0');
+    SendMessageW(list.Handle(), LB_GETTEXT, static_cast<WPARAM>(index),
+                 reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<std::size_t>(length));
+    return ToUtf8(text);
+  }
+
+  LongListTest() { winver_.MoveTo(20, 20, 0, 0); }
+
+  const WineProgram winver_{"winver.exe", "", "#32770"};
+  const Control list_ = winver_.Inside("ListBox");
+  const int count_ = static_cast<int>(SendMessageW(list_.Handle(), LB_GETCOUNT, 0, 0));
+};
+
+TEST_F(LongListTest, IsReadWhole) {
+  std::string all;
+  for (int i = 0; i < count_; ++i) all += Item(list_, i) + "\r\n";
+  ASSERT_GT(count_, 1000);
+  const Program program;
+  program.StartCapture();
+  PointAt(program, list_.Center(), Milliseconds(60000));
+  EXPECT_TRUE(program.BottomPane().TextBecomes(all));
+  EXPECT_TRUE(program[ui::txtCount].TextBecomes(std::to_string(count_ - 1) + "/" +
+                                                std::to_string(count_ - 1)));
+}
+
+TEST_F(LongListTest, EndsWithAMarkWhenThePointerGoesOn) {
+  const Program program;
+  program.StartCapture();
+  pointer::MoveTo(list_.Center());
+  Require(WaitFor("the list is being read", [&](std::string& seen) {
+    seen = program[ui::txtCount].Text();
+    return !seen.empty();
+  }));
+  // On and on, so that no other report takes the text away.
+  const RECT away = winver_.Window().Rectangle();
+  LONG step = 0;
+  EXPECT_TRUE(WaitFor("the text ends with the mark", [&](std::string& seen) {
+    step = (step + 1) % 40;
+    pointer::MoveTo({away.left + 60 + step, away.top + 8});
+    seen = program.BottomPane().Text();
+    return seen.ends_with("\r\n・・・中断・・・");
+  }));
+  EXPECT_THAT(program.BottomPane().Text(), StartsWith(Item(list_, 0) + "\r\n"));
+}
+
+TEST_F(LongListTest, LeavesTheStopKeyAliveWhileItIsRead) {
+  const Program program({.conf = "hotkey = ESC\n"});
+  program.StartCapture();
+  pointer::MoveTo(list_.Center());
+  Require(WaitFor("the list is being read", [&](std::string& seen) {
+    seen = program[ui::txtCount].Text();
+    return !seen.empty();
+  }));
+  // The position is shown on, and the button still answers.
+  EXPECT_FALSE(program[ui::lblMousePos].Text().empty());
+  program[ui::cmdGo].PressButton();
+  EXPECT_TRUE(program[ui::cmdGo].TextBecomes("開始"));
 }
 
 }  // namespace
