@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "ListReaders.h"
 #include "ProcessorTime.h"
 #include "ReportCost.h"
 #include "Statistics.h"
@@ -116,6 +117,12 @@ int main() {
       {"information block, 5000 children", 1.15, bench::MeasureInformation},
       {"information block, growth to 5000 children", 1.15, bench::MeasureInformationGrowth},
       {"delivery with file, growth to 20 MB", 1.15, bench::MeasureDeliveryGrowth},
+      {"items of a list box", 1.1, [] { return bench::MeasureItems("listbox", 4000); }},
+      {"items of a combo box", 1.1, [] { return bench::MeasureItems("dropdown", 4000); }},
+      {"buttons of a toolbar", 1.1, [] { return bench::MeasureItems("toolbar", 4000); }},
+      {"tabs of a tab control", 1.1, [] { return bench::MeasureItems("tabs", 4000); }},
+      {"100000 rows of a list view", 1.1, [] { return bench::MeasureItems("ownerdata", 100'000); }},
+      {"list view, growth to 100000 rows", 1.05, [] { return bench::MeasureRowGrowth(100'000); }},
   };
   bool held = true;
   try {

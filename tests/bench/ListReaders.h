@@ -1,0 +1,20 @@
+// What the item readers cost beyond the system calls that they cannot do without.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Statistics.h"
+
+namespace bench {
+
+// All items of such a control (a kind of tests/cross/fixture) in another process, against a bare
+// loop that makes the same system calls and keeps no text. Both go on in turns, item by item, so
+// that whatever else the machine does falls on both; each pair is the time for 100 items.
+std::vector<Pair> MeasureItems(const std::string& kind, int items);
+
+// The last tenth of the rows of a list view against the first tenth. What the bare loop took
+// longer for the last ones is taken off.
+std::vector<Pair> MeasureRowGrowth(int rows);
+
+}  // namespace bench
