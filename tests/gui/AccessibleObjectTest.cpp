@@ -1,0 +1,200 @@
+// The accessible objects of another program, as a capture shows them.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "accessible/FixtureProcess.h"
+#include "driver/GuiTest.h"
+#include "driver/Keys.h"
+#include "driver/Pointer.h"
+#include "driver/Program.h"
+#include "driver/Text.h"
+#include "ui/ControlIds.h"
+
+namespace gui {
+namespace {
+
+using accessible::FixtureProcess;
+
+constexpr char kFruit[] = "title=果物屋 place=40,40,400,300 fruit";
+constexpr char kColumns[] =
+    " accName\taccRole:Text\t( Location )\tChildCount=n\taccValue\r\n"
+    " ----------------------------------------------------------\r\n";
+
+// On the apple, the first item of the list, and on the button in it.
+constexpr POINT kApple = {150, 70};
+constexpr POINT kButton = {150, 110};
+
+class AccessibleObjectTest : public GuiTest {};
+
+TEST_F(AccessibleObjectTest, TheReportStandsInTheTopPaneWithDetails) {
+  const FixtureProcess fixture(kFruit);
+  const Program program({.conf = "detail = 1\n"});
+  program.StartCapture();
+  pointer::MoveTo(kApple);
+  EXPECT_TRUE(program.TopPane().TextBecomes(
+      std::string("MSAA(MS Active Accessibility)情報\r\n"
+                  "---------------------------------------\r\n"
+                  "Name       : 林檎\r\n"
+                  "Value      : 赤\r\n"
+                  "Role       : 34 リスト項目\r\n"
+                  "State      : x300006 "
+                  "選択されています。フォーカスされています。フォーカス可。選択可。\r\n"
+                  "KbShortCut : Alt+F\r\n"
+                  "Location   : (l:60,t:60,r:260,b:80)\r\n"
+                  "ChildCount : 0\r\n"
+                  "DefAction  : \r\n"
+                  "Description: \r\n"
+                  "\r\n"
+                  "Id         : 1\r\n"
+                  "Object Type: Simple Element\r\n"
+                  "\r\n"
+                  "Ancestors  : top → bottom\r\n") +
+      kColumns +
+      " \"果物の窓\"\t10:クライアント\t(40,40,440,340)\tChildCount=1\t\"\"\r\n"
+      " \"組\"\t20:グループ化\t(50,50,350,230)\tChildCount=1\t\"\"\r\n"
+      " \"果物の一覧\"\t33:リスト\t(60,60,260,180)\tChildCount=3\t\"林檎\"\r\n"
+      "Children   : 0 max=10\r\n" +
+      kColumns));
+  EXPECT_TRUE(program[ui::txtWin2].TextBecomes("林檎"));
+}
+
+TEST_F(AccessibleObjectTest, FromTheWindowTheReportNamesIt) {
+  const FixtureProcess fixture(kFruit);
+  const Program program(
+      {.conf = "detail = 1\nfrom hwnd = 1\nparent & children = 0\nparent & children max= 0\n"});
+  program.StartCapture();
+  pointer::MoveTo(kApple);
+  EXPECT_TRUE(
+      program.TopPane().TextBecomes("MSAA(MS Active Accessibility)情報\r\n"
+                                    "　--ウィンドウハンドル(" +
+                                    fixture.Control().HandleText() +
+                                    ")から取得\r\n"
+                                    "　　FixtureAccessible \"果物屋\"\r\n"
+                                    "---------------------------------------\r\n"
+                                    "Name       : 果物の窓\r\n"
+                                    "Value      : \r\n"
+                                    "Role       : 10 クライアント\r\n"
+                                    "State      : x0 \r\n"
+                                    "KbShortCut : \r\n"
+                                    "Location   : (l:40,t:40,r:440,b:340)\r\n"
+                                    "ChildCount : 1\r\n"
+                                    "DefAction  : \r\n"
+                                    "Description: \r\n"
+                                    "\r\n"
+                                    "Id         : 0\r\n"
+                                    "Object Type: Container\r\n"
+                                    "\r\n"
+                                    "\r\n"
+                                    "Parents    : 取得最大個数は０になっています\r\n"
+                                    "\r\n"
+                                    "Children 　: 取得最大個数は０になっています"));
+}
+
+TEST_F(AccessibleObjectTest, ChildrenOfUnknownWindowsAreListed) {
+  const FixtureProcess fixture(kFruit);
+  const Program program;
+  program.StartCapture();
+  pointer::MoveTo(kApple);
+  EXPECT_TRUE(program.TopPane().TextBecomes("林檎"));
+  EXPECT_TRUE(program.BottomPane().TextBecomes("組\r\n果物の一覧\r\n林檎\r\n蜜柑\r\n追加\r\n"));
+}
+
+TEST_F(AccessibleObjectTest, ItemsOfTreesAreListedIndented) {
+  const FixtureProcess fixture("place=40,40,300,200 tree=5");
+  const Program program;
+  program.StartCapture();
+  pointer::MoveTo({150, 40 + 2 * 16 + 8});
+  EXPECT_TRUE(program.TopPane().TextBecomes("項目3"));
+  EXPECT_TRUE(
+      program.BottomPane().TextBecomes("項目1\r\n\t項目2\r\n\t\t項目3\r\n項目4\r\n\t項目5\r\n"));
+}
+
+TEST_F(AccessibleObjectTest, AnEndlessTreeIsLeftWhenThePointerMovesOn) {
+  const FixtureProcess endless("place=40,40,200,300 endless");
+  const FixtureProcess fruit("title=果物屋 place=260,40,200,300 fruit");
+  const Program program;
+  program.StartCapture();
+  pointer::MoveTo({100, 100});
+  EXPECT_TRUE(WaitFor("many items are counted", [&](std::string& seen) {
+    seen = program[ui::txtCount].Text();
+    return seen.size() > 1;
+  }));
+  pointer::MoveTo({300, 70});
+  EXPECT_TRUE(program[ui::txthWnd].TextBecomes(fruit.Control().HandleText()));
+  EXPECT_TRUE(program.TopPane().TextBecomes("林檎"));
+  EXPECT_TRUE(program.IsCapturing());
+}
+
+std::vector<unsigned> Ticks(const std::string& actions, const std::string& action) {
+  std::vector<unsigned> ticks;
+  for (const std::string& one : Split(actions, ";")) {
+    const std::size_t sign = one.find('@');
+    EXPECT_EQ(one.substr(0, sign), action);
+    ticks.push_back(static_cast<unsigned>(std::stoul(one.substr(sign + 1))));
+  }
+  return ticks;
+}
+
+TEST_F(AccessibleObjectTest, AHeldKeyActsOncePerSecond) {
+  struct Mode {
+    const char* conf;
+    const char* hint;
+    const char* action;
+  };
+  for (const Mode& mode : {Mode{"action test = 1\n", "Ctrl で DoDefAction Test", "default 0"},
+                           Mode{"action test = 2\n", "Ctrl で Select 1 Test", "select 1 0"},
+                           Mode{"action test = 3\n", "Ctrl で Select 2 Test", "select 2 0"}}) {
+    const FixtureProcess fixture("place=40,40,400,300 fruit");
+    const Program program({.conf = mode.conf});
+    program.StartCapture();
+    EXPECT_TRUE(program[ui::lblStatus].TextBecomes(std::string("ESCで停止\r\n") + mode.hint));
+    pointer::MoveTo(kButton);
+    ASSERT_TRUE(program.TopPane().TextBecomes("追加"));
+    {
+      const keys::Held ctrl(VK_CONTROL);
+      Last(Milliseconds(2900));
+    }
+    const std::vector<unsigned> ticks = Ticks(fixture.Actions(), mode.action);
+    EXPECT_GE(ticks.size(), 2U);
+    EXPECT_LE(ticks.size(), 3U);
+    for (std::size_t i = 1; i < ticks.size(); ++i) EXPECT_GT(ticks[i] - ticks[i - 1], 950U);
+    EXPECT_TRUE(program.IsCapturing());
+  }
+}
+
+TEST_F(AccessibleObjectTest, WithoutAnActionTestTheKeyDoesNothing) {
+  const FixtureProcess fixture("place=40,40,400,300 fruit");
+  const Program program({.conf = "action test = 0\n"});
+  program.StartCapture();
+  pointer::MoveTo(kButton);
+  ASSERT_TRUE(program.TopPane().TextBecomes("追加"));
+  keys::Stroke({VK_CONTROL}, Milliseconds(500));
+  EXPECT_EQ(fixture.Actions(), "");
+}
+
+TEST_F(AccessibleObjectTest, HostileObjectsDoNotEndTheCapture) {
+  const Program program({.conf = "detail = 1\n"});
+  program.StartCapture();
+  for (const char* const scene : {"cycle", "claims", "huge", "codes", "dies"}) {
+    {
+      const FixtureProcess hostile(std::string("place=40,40,200,300 ") + scene);
+      pointer::MoveTo({100, 115});
+      EXPECT_TRUE(WaitFor("the window is reported or gone", [&](std::string&) {
+        return program[ui::txthWnd].Text() == hostile.Control().HandleText() ||
+               !hostile.IsRunning();
+      })) << scene;
+    }
+    const FixtureProcess fruit("place=260,40,200,300 fruit");
+    pointer::MoveTo({300, 70});
+    EXPECT_TRUE(program[ui::txthWnd].TextBecomes(fruit.Control().HandleText())) << scene;
+    EXPECT_TRUE(program[ui::txtWin2].TextBecomes("林檎")) << scene;
+    EXPECT_TRUE(program.IsCapturing()) << scene;
+  }
+}
+
+}  // namespace
+}  // namespace gui
