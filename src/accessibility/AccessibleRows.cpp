@@ -1,6 +1,7 @@
 #include "accessibility/AccessibleRows.h"
 
 #include <cstdint>
+#include <ranges>
 #include <vector>
 
 #include "accessibility/AccessibleListing.h"
@@ -73,7 +74,7 @@ std::wstring AncestorRows(IAccessible* object, const VARIANT& child,
     ancestor = AccParent(ancestor.Get());
   }
   std::wstring text;
-  for (auto row = rows.rbegin(); row != rows.rend(); ++row) text += *row;
+  for (const std::wstring& row : std::views::reverse(rows)) text += row;
   return text;
 }
 

@@ -34,7 +34,7 @@ std::optional<std::int32_t> NumberIn(const VARIANT& value) {
 }
 
 std::wstring RoleIn(const VARIANT& role) {
-  if (role.vt == VT_BSTR) return std::wstring(role.bstrVal, SysStringLen(role.bstrVal));
+  if (role.vt == VT_BSTR) return {role.bstrVal, SysStringLen(role.bstrVal)};
   const std::optional<std::int32_t> number = NumberIn(role);
   return number ? std::to_wstring(*number) : std::wstring();
 }
