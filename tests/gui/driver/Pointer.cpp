@@ -1,15 +1,26 @@
 #include "driver/Pointer.h"
 
+#include <initializer_list>
+#include <vector>
+
 #include "driver/WaitFor.h"
 
 namespace gui::pointer {
 namespace {
 
-void SendButton(DWORD flag) {
-  INPUT input = {};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flag;
-  SendInput(1, &input, sizeof input);
+// All in one call and at one time: a pause between the clicks of a double click, on a machine that
+// is busy, would make two single clicks of it.
+void SendButtons(std::initializer_list<DWORD> flags) {
+  const DWORD now = GetTickCount();
+  std::vector<INPUT> inputs;
+  for (const DWORD flag : flags) {
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flag;
+    input.mi.time = now;
+    inputs.push_back(input);
+  }
+  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
 }  // namespace
@@ -26,10 +37,10 @@ void MoveTo(POINT point) {
 
 void Press(POINT point) {
   MoveTo(point);
-  SendButton(MOUSEEVENTF_LEFTDOWN);
+  SendButtons({MOUSEEVENTF_LEFTDOWN});
 }
 
-void Release() { SendButton(MOUSEEVENTF_LEFTUP); }
+void Release() { SendButtons({MOUSEEVENTF_LEFTUP}); }
 
 void Click(POINT point) {
   Press(point);
@@ -37,9 +48,8 @@ void Click(POINT point) {
 }
 
 void DoubleClick(POINT point) {
-  Click(point);
-  SendButton(MOUSEEVENTF_LEFTDOWN);
-  Release();
+  MoveTo(point);
+  SendButtons({MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP});
 }
 
 void Drag(POINT from, POINT to, const std::function<void()>& beforeRelease) {
