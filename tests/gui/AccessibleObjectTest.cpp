@@ -11,6 +11,8 @@
 #include "driver/Keys.h"
 #include "driver/Pointer.h"
 #include "driver/Program.h"
+#include "driver/Screen.h"
+#include "driver/Target.h"
 #include "driver/Text.h"
 #include "ui/ControlIds.h"
 
@@ -195,6 +197,47 @@ TEST_F(AccessibleObjectTest, HostileObjectsDoNotEndTheCapture) {
     EXPECT_TRUE(program.IsCapturing()) << scene;
   }
 }
+
+struct RealProgram {
+  const char* file;
+  const char* windowClass;
+  const char* partClass;
+  const char* role;
+};
+
+class AccessibleProgramTest : public AccessibleObjectTest,
+                              public testing::WithParamInterface<RealProgram> {};
+
+TEST_P(AccessibleProgramTest, IsReported) {
+  const WineProgram target(GetParam().file, "", GetParam().windowClass);
+  target.MoveTo(20, 20, 0, 0);
+  const Program program({.conf = "detail = 1\ntop height = 8000\n"});
+  program.MoveWindowTo(640, 20, 600, 900);
+  program.StartCapture();
+  const Control part = target.Inside(GetParam().partClass);
+  const RECT at = part.Rectangle();
+  pointer::MoveTo({at.left + 30, at.top + 12});
+  EXPECT_TRUE(program[ui::txthWnd].TextBecomes(part.HandleText()));
+  EXPECT_TRUE(WaitFor("the report is told to its end", [&](std::string& seen) {
+    seen = program.TopPane().Text();
+    return seen.starts_with("MSAA(MS Active Accessibility)情報\r\n") &&
+           seen.find(std::string("Role       : ") + GetParam().role + "\r\n") !=
+               std::string::npos &&
+           seen.find("Children   : ") != std::string::npos;
+  }));
+  EXPECT_TRUE(program[ui::lblMsg].TextBecomes(""));
+  SaveScreenshot(std::string("details-") + GetParam().partClass);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, AccessibleProgramTest,
+    testing::Values(RealProgram{"notepad.exe", "Notepad", "Edit", "42 テキスト"},
+                    RealProgram{"regedit.exe", "RegEdit_RegEdit", "SysTreeView32",
+                                "10 クライアント"},
+                    RealProgram{"winecfg.exe", "#32770", "SysTabControl32", "10 クライアント"},
+                    // What write.exe starts.
+                    RealProgram{"C:\\Program Files\\Windows NT\\Accessories\\wordpad.exe",
+                                "WORDPADTOP", "RichEdit20W", "10 クライアント"}));
 
 }  // namespace
 }  // namespace gui
