@@ -7,6 +7,7 @@
 
 #include "FakeTarget.h"
 #include "extract/TargetBlock.h"
+#include "platform/ErrorReport.h"
 #include "platform/TextCodec.h"
 
 namespace MyMapView {
@@ -15,7 +16,23 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST(MyMapViewTest, ARemoteBlockIsAllocatedWithTheRightsToUseIt) {
+// Whatever fails, no message is shown.
+class MyMapViewTest : public testing::Test {
+ protected:
+  ~MyMapViewTest() override {
+    platform::SetMessageBox(before_);
+    EXPECT_EQ(boxes_, 0);
+  }
+
+ private:
+  int boxes_ = 0;
+  platform::MessageBoxFunction before_ =
+      platform::SetMessageBox([this](const auto&, const auto&) { ++boxes_; });
+};
+
+class TargetBlockTest : public MyMapViewTest {};
+
+TEST_F(MyMapViewTest, ARemoteBlockIsAllocatedWithTheRightsToUseIt) {
   FakeMemory memory;
   HANDLE process = nullptr;
   void* const address = AllocRemote(memory, 77, 40, process);
@@ -24,7 +41,7 @@ TEST(MyMapViewTest, ARemoteBlockIsAllocatedWithTheRightsToUseIt) {
   EXPECT_THAT(memory.calls, ElementsAre("OpenProcess 38 0 4d", "VirtualAllocEx 51 0 28 3000 4"));
 }
 
-TEST(MyMapViewTest, WithoutMemoryTheHandleIsStillTheCallers) {
+TEST_F(MyMapViewTest, WithoutMemoryTheHandleIsStillTheCallers) {
   FakeMemory memory;
   memory.mostBlocks = 0;
   HANDLE process = nullptr;
@@ -32,7 +49,7 @@ TEST(MyMapViewTest, WithoutMemoryTheHandleIsStillTheCallers) {
   EXPECT_EQ(process, reinterpret_cast<HANDLE>(0x51));
 }
 
-TEST(MyMapViewTest, AProcessThatMayNotBeOpenedGivesNothing) {
+TEST_F(MyMapViewTest, AProcessThatMayNotBeOpenedGivesNothing) {
   FakeMemory memory;
   memory.opens = false;
   HANDLE process = reinterpret_cast<HANDLE>(1);
@@ -41,7 +58,7 @@ TEST(MyMapViewTest, AProcessThatMayNotBeOpenedGivesNothing) {
   EXPECT_THAT(memory.calls, ElementsAre("OpenProcess 38 0 4d"));
 }
 
-TEST(MyMapViewTest, ARemoteBlockIsGivenUpAndItsHandleClosed) {
+TEST_F(MyMapViewTest, ARemoteBlockIsGivenUpAndItsHandleClosed) {
   FakeMemory memory;
   HANDLE process = nullptr;
   void* const address = AllocRemote(memory, 77, 256, process);
@@ -50,7 +67,7 @@ TEST(MyMapViewTest, ARemoteBlockIsGivenUpAndItsHandleClosed) {
   EXPECT_THAT(memory.calls, ElementsAre("VirtualFreeEx 51 0 200 ffff8000", "CloseHandle 51"));
 }
 
-TEST(MyMapViewTest, ThatReleaseLeavesTheBlockInTheTarget) {
+TEST_F(MyMapViewTest, ThatReleaseLeavesTheBlockInTheTarget) {
   MemoryCalls& calls = SystemMemoryCalls();
   HANDLE process = nullptr;
   void* const address = AllocRemote(calls, GetCurrentProcessId(), 256, process);
@@ -62,7 +79,7 @@ TEST(MyMapViewTest, ThatReleaseLeavesTheBlockInTheTarget) {
   EXPECT_TRUE(VirtualFree(address, 0, MEM_RELEASE));
 }
 
-TEST(MyMapViewTest, TheFamilyOfTheSystem) {
+TEST_F(MyMapViewTest, TheFamilyOfTheSystem) {
   FakeMemory memory;
   EXPECT_TRUE(IsNT(memory));
   EXPECT_EQ(memory.versionSize, 148U);
@@ -76,7 +93,7 @@ TEST(MyMapViewTest, TheFamilyOfTheSystem) {
   EXPECT_TRUE(IsNT(SystemMemoryCalls()));
 }
 
-TEST(MyMapViewTest, EmulationMeansA64BitSystem) {
+TEST_F(MyMapViewTest, EmulationMeansA64BitSystem) {
   FakeMemory memory;
   EXPECT_FALSE(IsWin64(memory)) << "a system that knows no emulation";
   EXPECT_EQ(memory.askedModule, "kernel32");
@@ -89,13 +106,13 @@ TEST(MyMapViewTest, EmulationMeansA64BitSystem) {
   EXPECT_FALSE(IsWin64(memory)) << "the question fails";
 }
 
-TEST(MyMapViewTest, TheRealSystemAnswersAsItsFoldersTell) {
+TEST_F(MyMapViewTest, TheRealSystemAnswersAsItsFoldersTell) {
   wchar_t folder[MAX_PATH] = {};
   const bool has64 = GetSystemWow64DirectoryW(folder, MAX_PATH) != 0;
   EXPECT_EQ(IsWin64(SystemMemoryCalls()), has64);
 }
 
-TEST(MyMapViewTest, TheKindOfATargetProcess) {
+TEST_F(MyMapViewTest, TheKindOfATargetProcess) {
   FakeMemory memory;
   EXPECT_EQ(IsProcess64(memory, 77), false) << "32-bit system";
   EXPECT_THAT(memory.calls, IsEmpty());
@@ -108,7 +125,7 @@ TEST(MyMapViewTest, TheKindOfATargetProcess) {
   EXPECT_EQ(IsProcess64(memory, 77), std::nullopt);
 }
 
-TEST(MyMapViewTest, AnExistingMappingIsOpened) {
+TEST_F(MyMapViewTest, AnExistingMappingIsOpened) {
   FakeMemory memory;
   memory.mappingExists = true;
   HANDLE mapping = nullptr;
@@ -121,7 +138,7 @@ TEST(MyMapViewTest, AnExistingMappingIsOpened) {
               ElementsAre("OpenFileMapping 256 f001f 0", "MapViewOfFile 70 f001f 0 0 0"));
 }
 
-TEST(MyMapViewTest, AMissingMappingIsMadeAndEmptied) {
+TEST_F(MyMapViewTest, AMissingMappingIsMadeAndEmptied) {
   FakeMemory memory;
   HANDLE mapping = nullptr;
   void* view = nullptr;
@@ -135,7 +152,7 @@ TEST(MyMapViewTest, AMissingMappingIsMadeAndEmptied) {
   EXPECT_EQ(memory.blocks[0][1024], 0x7F);
 }
 
-TEST(MyMapViewTest, EveryFailureOfAMappingIsToldAndGivesNoView) {
+TEST_F(MyMapViewTest, EveryFailureOfAMappingIsToldAndGivesNoView) {
   struct Case {
     const char* what;
     void (*spoil)(FakeMemory&);
@@ -157,7 +174,7 @@ TEST(MyMapViewTest, EveryFailureOfAMappingIsToldAndGivesNoView) {
   }
 }
 
-TEST(MyMapViewTest, ClosingASharedBlockLeavesItsViewMapped) {
+TEST_F(MyMapViewTest, ClosingASharedBlockLeavesItsViewMapped) {
   FakeMemory memory;
   void* view = OpenShared(memory, "256");
   void* const before = view;
@@ -168,7 +185,7 @@ TEST(MyMapViewTest, ClosingASharedBlockLeavesItsViewMapped) {
   EXPECT_THAT(memory.calls, ElementsAre("UnmapViewOfFile", "CloseHandle 0"));
 }
 
-TEST(MyMapViewTest, BlocksOfOneNameAreOneMapping) {
+TEST_F(MyMapViewTest, BlocksOfOneNameAreOneMapping) {
   MemoryCalls& calls = SystemMemoryCalls();
   char* const first = static_cast<char*>(OpenShared(calls, "256"));
   char* const second = static_cast<char*>(OpenShared(calls, "256"));
@@ -188,7 +205,7 @@ TEST(MyMapViewTest, BlocksOfOneNameAreOneMapping) {
 
 constexpr extract::BlockSize kSize{124, "121", 512};
 
-TEST(TargetBlockTest, ABlockInTheTargetIsReleasedWithItsOwnSize) {
+TEST_F(TargetBlockTest, ABlockInTheTargetIsReleasedWithItsOwnSize) {
   FakeMemory memory;
   {
     extract::TargetBlock block(memory, 77, kSize);
@@ -198,7 +215,7 @@ TEST(TargetBlockTest, ABlockInTheTargetIsReleasedWithItsOwnSize) {
   EXPECT_THAT(memory.calls, ElementsAre("VirtualFreeEx 51 0 200 ffff8000", "CloseHandle 51"));
 }
 
-TEST(TargetBlockTest, OnlyWhatWasObtainedIsReleased) {
+TEST_F(TargetBlockTest, OnlyWhatWasObtainedIsReleased) {
   FakeMemory memory;
   memory.mostBlocks = 0;
   { EXPECT_EQ(extract::TargetBlock(memory, 77, kSize).Address(), 0U); }
@@ -210,7 +227,7 @@ TEST(TargetBlockTest, OnlyWhatWasObtainedIsReleased) {
   EXPECT_THAT(memory.calls, ElementsAre("OpenProcess 38 0 4d"));
 }
 
-TEST(TargetBlockTest, TheOlderFamilySharesANamedMapping) {
+TEST_F(TargetBlockTest, TheOlderFamilySharesANamedMapping) {
   FakeMemory memory;
   memory.platform = 1;
   {
@@ -225,7 +242,7 @@ TEST(TargetBlockTest, TheOlderFamilySharesANamedMapping) {
               ElementsAre("OpenFileMapping 121 f001f 0", "UnmapViewOfFile", "CloseHandle 0"));
 }
 
-TEST(TargetBlockTest, AnOlderSystemWithoutAMappingGivesNoBlock) {
+TEST_F(TargetBlockTest, AnOlderSystemWithoutAMappingGivesNoBlock) {
   FakeMemory memory;
   memory.platform = 1;
   memory.creates = false;
@@ -233,7 +250,7 @@ TEST(TargetBlockTest, AnOlderSystemWithoutAMappingGivesNoBlock) {
   EXPECT_EQ(memory.calls.size(), 2U) << "nothing is closed";
 }
 
-TEST(TargetBlockTest, ALostTargetIsTold) {
+TEST_F(TargetBlockTest, ALostTargetIsTold) {
   FakeMemory memory;
   extract::TargetBlock block(memory, 77, kSize);
   memory.lost = true;
@@ -241,7 +258,7 @@ TEST(TargetBlockTest, ALostTargetIsTold) {
   EXPECT_THROW(block.ReadText(121), extract::TargetLost);
 }
 
-TEST(TargetBlockTest, ATextEndsAtTheFirstZeroByte) {
+TEST_F(TargetBlockTest, ATextEndsAtTheFirstZeroByte) {
   FakeMemory memory;
   extract::TargetBlock block(memory, 77, kSize);
   block.Write("ab\0cd", 6);
@@ -250,7 +267,7 @@ TEST(TargetBlockTest, ATextEndsAtTheFirstZeroByte) {
   EXPECT_EQ(block.ReadText(121), L"");
 }
 
-TEST(TargetBlockTest, ATextThatFillsTheBlockIsCutBetweenCharacters) {
+TEST_F(TargetBlockTest, ATextThatFillsTheBlockIsCutBetweenCharacters) {
   if (GetACP() != 932) GTEST_SKIP() << "holds in code page 932";
   FakeMemory memory;
   extract::TargetBlock block(memory, 77, kSize);
