@@ -192,12 +192,12 @@ std::vector<Pair> MeasureItems(const std::string& kind, int items) {
 
 std::vector<Pair> MeasureRowGrowth(int rows) {
   const std::vector<Pair> chunks = MeasureItems("ownerdata", rows);
-  const std::size_t tenth = chunks.size() / 10;
+  const std::size_t half = chunks.size() / 2;
   std::vector<Pair> pairs;
-  for (std::size_t i = 0; i < tenth; ++i) {
+  for (std::size_t i = 0; i < half; ++i) {
     const Pair& first = chunks[i];
-    const Pair& last = chunks[chunks.size() - tenth + i];
-    pairs.push_back({last.program, first.program * last.yardstick / first.yardstick});
+    const Pair& second = chunks[half + i];
+    pairs.push_back({second.program, first.program * second.yardstick / first.yardstick});
   }
   return pairs;
 }
