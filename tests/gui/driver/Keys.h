@@ -12,7 +12,7 @@ namespace gui::keys {
 
 // How long a key stays down: longer than a program needs that looks at the keyboard every 10 ms
 // on a busy machine, shorter than the key repeat (about 660 ms).
-inline constexpr Milliseconds kHold{150};
+inline constexpr Milliseconds kHold{400};
 
 // Presses the keys in order, holds them, lets them go in reverse order. The pointer must not move
 // meanwhile: with the pointer moving into a window the system lets modifiers go by itself.
