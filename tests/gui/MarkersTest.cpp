@@ -176,11 +176,16 @@ TEST_F(MarkersTest, LeaveAnOpenMenuAndTheForegroundAlone) {
   };
   ASSERT_TRUE(WaitFor("the menu is open", [&](std::string&) { return menuIsOpen(); }));
   const POINT point = {at.left + 300, at.top + 250};
-  pointer::MoveTo({point.x - 60, point.y - 40});
+  const POINT below = {point.x - 60, point.y - 40};
+  pointer::MoveTo(below);
   ASSERT_TRUE(SurroundPoint(program, point));
   EXPECT_TRUE(Stays(
       "the menu stays open and the program in front",
       [&](std::string& seen) {
+        // A program with an open menu may report late, and as news, where the pointer was before.
+        POINT now = {};
+        GetCursorPos(&now);
+        if (now.x != below.x || now.y != below.y) pointer::MoveTo(below);
         seen = Control(GetForegroundWindow(), "").ClassName();
         return menuIsOpen() && GetForegroundWindow() == notepad.Window().Handle();
       },
