@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "ListFixture.h"
 #include "Reading.h"
 #include "driver/Owners.h"
 
@@ -132,9 +133,14 @@ std::wstring ToolbarTexts(HWND control) {
 std::wstring TabCaptions(HWND control) {
   const Room room(control);
   std::wstring result;
+  const bool is64 = IsIn64BitProcess(control);
   const int tabs = Ask(control, TCM_GETITEMCOUNT);
   for (int i = 0; i < tabs; ++i) {
-    room.Put({TCIF_TEXT, 0, 0, room.Text(), kTextLength});
+    if (is64) {
+      room.Put({TCIF_TEXT, 0, 0, 0, room.Text(), 0, kTextLength});
+    } else {
+      room.Put({TCIF_TEXT, 0, 0, room.Text(), kTextLength});
+    }
     Ask(control, TCM_GETITEMW, static_cast<WPARAM>(i), room.Record());
     result += ThroughBlock(room.TakeText(), 255) + L"\r\n";
   }
@@ -160,6 +166,14 @@ std::string KindOfClass(const std::string& className) {
     if (row.className == className) return row.kind;
   }
   return {};
+}
+
+bool IsIn64BitProcess(HWND window) {
+  DWORD processId = 0;
+  GetWindowThreadProcessId(window, &processId);
+  const gui::OwnedHandle process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, processId));
+  BOOL emulated = FALSE;
+  return SystemHas64Bits() && IsWow64Process(process.get(), &emulated) && !emulated;
 }
 
 std::wstring ReadOtherwise(const std::string& kind, HWND control) {

@@ -1,5 +1,5 @@
 // Reads the items of a control by other means than the program: wide messages and a block of its
-// own, of 32-bit targets only.
+// own.
 #pragma once
 
 #include <windows.h>
@@ -12,7 +12,9 @@ namespace cross {
 // other classes.
 std::string KindOfClass(const std::string& className);
 
-// What a reading of the control gives, as a 32-bit system reads it.
+bool IsIn64BitProcess(HWND window);
+
+// What a reading of the control gives. A list view must be one of a 32-bit process.
 std::wstring ReadOtherwise(const std::string& kind, HWND control);
 
 }  // namespace cross
