@@ -1,5 +1,8 @@
 #include "capture/ReportComposer.h"
 
+#include <functional>
+#include <utility>
+
 #include "capture/CaptureWords.h"
 #include "capture/OutputDelivery.h"
 #include "extract/StringUtilities.h"
@@ -82,15 +85,16 @@ class Report {
     Attempt([&] { context_.view.SetVisible(ViewText::txtCount, false); });
   }
 
+  platform::ReadSession Session(std::function<void(const std::wstring&)> showProgress) const {
+    return {State().TargetWindow, std::move(showProgress), [this] { context_.system.Pump(); },
+            [this] { return State().CaptureRunning; }};
+  }
+
   void ReadList(Category category) const {
     std::wstring text;
     std::wstring method;
-    platform::ReadSession session{
-        State().TargetWindow,
-        [this](const std::wstring& progress) { SetText(ViewText::txtCount, progress); },
-        [this] { context_.system.Pump(); },
-        [this] { return State().CaptureRunning; },
-    };
+    platform::ReadSession session =
+        Session([this](const std::wstring& progress) { SetText(ViewText::txtCount, progress); });
     Attempt([&] { text = ReadByCategory(readers_, category, {target_, point_, session, method}); });
     State().BottomTexts[1].clear();
     State().BottomTexts[2] = text;
@@ -108,7 +112,11 @@ class Report {
 
   void ReadAccessible() const {
     AccessibleTexts texts;
-    Attempt([&] { texts = readers_.Accessible(Set().fromHwnd == 1 ? target_ : nullptr, point_); });
+    // The count that the list's reader showed last stays.
+    const platform::ReadSession session = Session([](const std::wstring&) {});
+    Attempt([&] {
+      texts = readers_.Accessible(Set().fromHwnd == 1 ? target_ : nullptr, point_, session);
+    });
     State().TopTexts[1] = texts.report;
     SetText(ViewText::txtWin2, texts.name);
     Redisplay();

@@ -53,7 +53,8 @@ class ReportReaders {
   virtual std::wstring GetChildText(const CategoryRead& read) = 0;
 
   // The accessible object of the window hwnd, or, when that is null, at the point.
-  virtual AccessibleTexts Accessible(HWND hwnd, POINT point) = 0;
+  virtual AccessibleTexts Accessible(HWND hwnd, POINT point,
+                                     const platform::ReadSession& session) = 0;
 
   virtual std::wstring StatusText(HWND target, std::wstring_view className,
                                   std::wstring_view title) = 0;

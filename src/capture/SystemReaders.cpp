@@ -12,7 +12,6 @@
 #include "extract/TabControlItems.h"
 #include "extract/ToolbarItems.h"
 #include "extract/Win32API_Window.h"
-#include "platform/MessagePump.h"
 
 namespace capture {
 namespace {
@@ -94,15 +93,13 @@ class SystemReaders : public ReportReaders {
     return extract::GetChildText(read.hwnd, read.method);
   }
 
-  AccessibleTexts Accessible(HWND hwnd, POINT point) override {
+  AccessibleTexts Accessible(HWND hwnd, POINT point,
+                             const platform::ReadSession& session) override {
     MyAccessible::ReportedWindow window;
     if (hwnd != nullptr) {
       const WindowFacts facts = ReadWindowFacts(hwnd);
       window = {hwnd, facts.className, facts.title};
     }
-    const HWND target = hwnd;
-    const platform::ReadSession session{target, [](const std::wstring&) {}, platform::Pump,
-                                        [] { return true; }};
     MyAccessible::AccessibleFacts record;
     std::wstring report =
         MyAccessible::GetAccessibleMemberFromPoint(record, window, point, settings_, session);

@@ -50,8 +50,10 @@ class FakeReaders : public ReportReaders {
   std::wstring GetTooltipText(const CategoryRead& read) override { return Read("tool tip", read); }
   std::wstring GetOther(const CategoryRead& read) override { return Read("other", read); }
   std::wstring GetChildText(const CategoryRead& read) override { return Read("dialog", read); }
-  AccessibleTexts Accessible(HWND hwnd, POINT) override {
+  AccessibleTexts Accessible(HWND hwnd, POINT, const platform::ReadSession& session) override {
     Note("accessible");
+    session.showProgress(L"9");
+    targetSeen = session.target;
     accessibleOf = hwnd;
     return {L"MSAA", L"名"};
   }
@@ -71,6 +73,7 @@ class FakeReaders : public ReportReaders {
   std::string failing;  // the reader that throws
   POINT askedPoint{};
   HWND accessibleOf = WindowNumber(-1);
+  HWND targetSeen = nullptr;
   HWND statusOf = nullptr;
 
  private:
@@ -189,6 +192,14 @@ TEST_F(ReportComposerTest, ReadersSeeTheTargetMove) {
   };
   Compose();
   // The last progress stays: it is the number of items.
+  EXPECT_EQ(Text(ViewText::txtCount), L"3/7");
+}
+
+TEST_F(ReportComposerTest, TheAccessibleReportSeesTheTargetMoveAndLeavesTheCount) {
+  readers_.onRead = [](const CategoryRead& read) { read.session.showProgress(L"3/7"); };
+  fake_.system.onPump = [this] { fake_.state.TargetWindow = WindowNumber(88); };
+  Compose();
+  EXPECT_EQ(readers_.targetSeen, WindowNumber(88));
   EXPECT_EQ(Text(ViewText::txtCount), L"3/7");
 }
 
