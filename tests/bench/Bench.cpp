@@ -27,7 +27,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr int kStarts = 15;
+constexpr int kStarts = 31;
 constexpr int kRounds = 7;
 constexpr gui::Milliseconds kRound{4000};
 constexpr gui::Milliseconds kWarmUp{1500};
