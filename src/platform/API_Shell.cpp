@@ -75,8 +75,10 @@ std::wstring AbsolutePath(const std::wstring& path, const std::wstring& base) {
   }
 }
 
+std::wstring ExplorerCommand(const std::wstring& target) { return L"explorer.exe " + target; }
+
 void OpenWithExplorer(const std::wstring& target) {
-  std::wstring command = L"explorer.exe " + target;
+  std::wstring command = ExplorerCommand(target);
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
   startup.dwFlags = STARTF_USESHOWWINDOW;

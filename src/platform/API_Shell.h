@@ -20,7 +20,10 @@ std::wstring ProgramFolder();
 // quote only is reported in a message box titled "AbsolutePath" and returned unchanged.
 std::wstring AbsolutePath(const std::wstring& path, const std::wstring& base);
 
-// Starts "explorer.exe " followed by target in a normal window and does not wait. A failure is
+// "explorer.exe " followed by target.
+std::wstring ExplorerCommand(const std::wstring& target);
+
+// Starts ExplorerCommand(target) in a normal window and does not wait. A failure is
 // not reported.
 void OpenWithExplorer(const std::wstring& target);
 

@@ -120,6 +120,35 @@ TEST_F(ReportTest, ChildrenOfNotepadInHexadecimal) {
   EXPECT_THAT(program.BottomPane().Text(), HasSubstr(line));
 }
 
+TEST_F(ReportTest, AMenuThatIsOpen) {
+  const Program program({.conf = "form left = 700\nform top = 500\nform right = 1100\n"
+                                 "form bottom = 900\n"});
+  program.StartCapture();
+  // Started last, so it is in front without a click: Wine loses the foreground now and then when
+  // it goes from one program to another by synthetic clicks.
+  const WineProgram notepad("notepad.exe", "", "Notepad");
+  notepad.MoveTo(100, 100, 500, 400);
+  const HWND front = notepad.Window().Handle();
+  Require(WaitFor("Notepad comes to rest in front", [&](std::string& seen) {
+    seen = Control(GetForegroundWindow(), "").ClassName();
+    if (GetForegroundWindow() != front) SetForegroundWindow(front);
+    return bool(Stays(
+        "", [&](std::string&) { return GetForegroundWindow() == front; }, Milliseconds(700)));
+  }));
+  PostMessageW(notepad.Window().Handle(), WM_SYSCOMMAND, SC_KEYMENU, L'f');
+  HWND menu = nullptr;
+  Require(WaitFor("the menu is open", [&](std::string&) {
+    menu = FindWindowW(L"#32768", nullptr);
+    return menu != nullptr && IsWindowVisible(menu);
+  }));
+  PointAt(program, Control(menu, "the menu").Center());
+  EXPECT_TRUE(program[ui::txtWin0].TextBecomes("#32768"));
+  // The program that the menu belongs to is in front, its status bar counts.
+  EXPECT_TRUE(program[ui::txtStatus].TextBecomes(notepad.Inside("msctls_statusbar32").Text()));
+  EXPECT_TRUE(IsWindowVisible(menu)) << "reading must not close it";
+  SaveScreenshot("menu");
+}
+
 TEST_F(ReportTest, TaskManagersTabsAndStatusBar) {
   const WineProgram taskmgr("taskmgr.exe", "", "#32770");
   taskmgr.MoveTo(30, 30, 0, 0);

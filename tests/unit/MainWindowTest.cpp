@@ -6,6 +6,7 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <array>
 #include <fstream>
 #include <string>
@@ -141,6 +142,27 @@ TEST_F(MainWindowTest, StaysInFrontWhenTheSettingSaysSo) {
 TEST_F(MainWindowTest, TellsWhatTheButtonDoes) {
   Load("");
   EXPECT_EQ(Tip(cmdGo), L"Velmora列取得開始");
+}
+
+TEST_F(MainWindowTest, LinksTellTheirAddressesInTheirTips) {
+  Load("");
+  std::wstring page = L"file:///" + folder_.Path().wstring() + L"/help/index.html";
+  std::ranges::replace(page, L'\\', L'/');
+  EXPECT_EQ(Tip(Help_Url), page);
+  EXPECT_EQ(Tip(MyUrl), page + L"#about");
+}
+
+TEST_F(MainWindowTest, APanesTipCountsItsCharacters) {
+  Load("");
+  state_.TopTexts[2] = L"ab あ\r\nc";
+  SendMessageW(Control(chkDetail), BM_CLICK, 0, 0);
+  SendMessageW(Control(chkDetail), BM_CLICK, 0, 0);
+  constexpr std::wstring_view kCounts =
+      L"字数:6(4) 改行:1 8byte  全角:1(1) 半角:4(3) 全SP:0 半SP:1 タブ:0";
+  EXPECT_EQ(Tip(txtWinTextT0), kCounts);
+  // The other member of the pair takes over the text, and so the count.
+  SendMessageW(Control(chkTurnBack), BM_CLICK, 0, 0);
+  EXPECT_EQ(Tip(txtWinTextT1), kCounts);
 }
 
 TEST_F(MainWindowTest, PositionLabelNamesTheOtherModeInItsTip) {

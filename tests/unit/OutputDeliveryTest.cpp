@@ -9,6 +9,7 @@
 #include "TemporaryFolder.h"
 #include "platform/ErrorReport.h"
 #include "platform/TextCodec.h"
+#include "platform/UniqueHandle.h"
 
 namespace capture {
 namespace {
@@ -128,6 +129,32 @@ TEST_F(PutPaneTextTest, WritesTheWholeTextWhenAsked) {
   std::ostringstream bytes;
   bytes << file.rdbuf();
   EXPECT_EQ(bytes.str(), platform::ToAnsi(text) + "\r\n");
+}
+
+TEST_F(PutPaneTextTest, AVeryLongTextIsWrittenToItsLastByte) {
+  std::wstring text;
+  for (int line = 0; text.size() < 10'000'000; ++line) {
+    text += std::to_wstring(line) + L"\t表示する文字\r\n";
+  }
+  Put(text, 1);
+  std::ifstream file(File(), std::ios::binary);
+  std::ostringstream bytes;
+  bytes << file.rdbuf();
+  EXPECT_TRUE(bytes.str() == platform::ToAnsi(text) + "\r\n");
+  EXPECT_GT(bytes.str().size(), 13'000'000U);
+  EXPECT_TRUE(Shown().starts_with(text.substr(0, 65'000) + L"\r\n\r\n---"));
+}
+
+TEST_F(PutPaneTextTest, AFileThatAnotherProgramHoldsIsKeptAndThePaneToo) {
+  std::ofstream(File()) << "kept";
+  {
+    const platform::UniqueKernelHandle held(CreateFileW(
+        File().c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    Put(std::wstring(65'535, L'a'), 1);
+  }
+  EXPECT_TRUE(Shown() == L"before");
+  EXPECT_EQ(boxes_, 0);
+  EXPECT_EQ(std::filesystem::file_size(File()), 4U);
 }
 
 TEST_F(PutPaneTextTest, ReplacesTheFileOfTheTimeBefore) {

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "platform/API_Shell.h"
+#include "platform/Clipboard.h"
 #include "platform/ComOwners.h"
 #include "platform/ErrorReport.h"
 #include "platform/TextCodec.h"
@@ -151,6 +152,47 @@ TEST(ShellTest, FindsSpecialFolders) {
 TEST(ShellTest, PlaysToTheEndOrOverAndOver) {
   EXPECT_EQ(API_Shell::SoundFlags(false), 0U);
   EXPECT_EQ(API_Shell::SoundFlags(true), 8U);
+}
+
+TEST(ShellTest, OpensAddressesWithTheExplorer) {
+  EXPECT_EQ(API_Shell::ExplorerCommand(L"file:///C:/a b/help/index.html#about"),
+            L"explorer.exe file:///C:/a b/help/index.html#about");
+}
+
+// Owns nothing visible; the clipboard is opened in its name.
+UniqueWindow ClipboardOwner() {
+  return UniqueWindow(
+      CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr));
+}
+
+std::wstring ClipboardText(HWND owner) {
+  std::wstring text;
+  if (!OpenClipboard(owner)) return text;
+  const HANDLE data = GetClipboardData(CF_UNICODETEXT);
+  if (const void* const place = data == nullptr ? nullptr : GlobalLock(data)) {
+    text = static_cast<const wchar_t*>(place);
+    GlobalUnlock(data);
+  }
+  CloseClipboard();
+  return text;
+}
+
+TEST(ClipboardTest, TakesTextsAsTheyAre) {
+  const UniqueWindow owner = ClipboardOwner();
+  for (const wchar_t* const text : {L"文字\r\n二行目", L"", L"\U0001F600"}) {
+    EXPECT_TRUE(PutTextOnClipboard(owner.Get(), text));
+    EXPECT_EQ(ClipboardText(owner.Get()), text);
+  }
+}
+
+TEST(ClipboardTest, StaysAsItIsWhileAnotherWindowHasItOpen) {
+  const UniqueWindow owner = ClipboardOwner();
+  const UniqueWindow other = ClipboardOwner();
+  ASSERT_TRUE(PutTextOnClipboard(owner.Get(), L"before"));
+  ASSERT_TRUE(OpenClipboard(other.Get()));
+  EXPECT_FALSE(PutTextOnClipboard(owner.Get(), L"after"));
+  CloseClipboard();
+  EXPECT_EQ(ClipboardText(owner.Get()), L"before");
 }
 
 TEST(ShellTest, KnowsItsOwnFolder) {
