@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "FakeCapture.h"
+#include "platform/UniqueHandle.h"
 
 namespace capture {
 namespace {
@@ -75,6 +76,45 @@ TEST(ReadWindowInformationTest, AWindowThatIsGoneHasEmptyFacts) {
     EXPECT_TRUE(information.ancestors.empty());
     EXPECT_TRUE(information.children.empty());
   }
+}
+
+platform::UniqueWindow Make(HWND parent, const wchar_t* title, DWORD style) {
+  return platform::UniqueWindow(CreateWindowExW(0, L"STATIC", title,
+                                                style | (parent != nullptr ? WS_CHILD : WS_POPUP),
+                                                10, 20, 30, 40, parent, nullptr, nullptr, nullptr));
+}
+
+TEST(ReadWindowInformationTest, ListsAllVisibleDescendantsAndNoOthers) {
+  const auto window = Make(nullptr, L"外", WS_VISIBLE);
+  const auto shown = Make(window.Get(), L"見える", WS_VISIBLE);
+  const auto inside = Make(shown.Get(), L"中", WS_VISIBLE);
+  const auto hidden = Make(window.Get(), L"見えない", 0);
+  const auto insideHidden = Make(hidden.Get(), L"これも", WS_VISIBLE);
+  std::vector<platform::UniqueWindow> many;
+  for (int i = 0; i < 50; ++i) many.push_back(Make(window.Get(), L"多", WS_VISIBLE));
+
+  const WindowInformation information = ReadWindowInformation(ReadWindowFacts(window.Get()));
+  ASSERT_EQ(information.children.size(), 52U);
+  EXPECT_EQ(information.children[0].hwnd, shown.Get());
+  EXPECT_EQ(information.children[0].title, L"見える");
+  EXPECT_EQ(information.children[1].hwnd, inside.Get());
+  for (const WindowFacts& child : information.children) {
+    EXPECT_NE(child.hwnd, hidden.Get());
+    EXPECT_NE(child.hwnd, insideHidden.Get());
+  }
+}
+
+TEST(ReadWindowInformationTest, NamesOwnerAndAncestors) {
+  const auto owner = Make(nullptr, L"持ち主", 0);
+  const platform::UniqueWindow owned(CreateWindowExW(0, L"STATIC", L"持ち物", WS_POPUP, 1, 2, 3, 4,
+                                                     owner.Get(), nullptr, nullptr, nullptr));
+  const auto child = Make(owned.Get(), L"子", 0);
+  EXPECT_EQ(ReadWindowInformation(ReadWindowFacts(owned.Get())).owner.title, L"持ち主");
+  const WindowInformation information = ReadWindowInformation(ReadWindowFacts(child.Get()));
+  EXPECT_EQ(information.owner.hwnd, nullptr);
+  ASSERT_EQ(information.ancestors.size(), 2U);
+  EXPECT_EQ(information.ancestors[0].hwnd, owned.Get());
+  EXPECT_EQ(information.ancestors[1].hwnd, owner.Get());
 }
 
 }  // namespace
