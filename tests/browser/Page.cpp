@@ -38,6 +38,7 @@ Element& Page::AddElement(const ElementData& data, Document& document, Element* 
     Window& inner =
         windows_.emplace_back(watch, data.windowName.value_or(data.name.value_or(L"")), &outer);
     outer.frames.push_back(&inner);
+    element.content = &inner;
     AddDocument(content, inner);
   }
   for (const ElementData& child : data.children) AddElement(child, document, &element);

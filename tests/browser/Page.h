@@ -51,6 +51,7 @@ class Element : public ScriptObject<Element, RefusedElement, RefusedElement2> {
   void* Offer(REFIID id);
   bool Knows(const Member& member) const;
 
+  const ElementData& Data() const { return data_; }
   // All references to this and to its rectangle.
   LONG AllReferences() const { return References() + rectangle_.References(); }
   bool IsBody() const { return data_.tag == L"BODY" || data_.tag == L"FRAMESET"; }
@@ -61,6 +62,7 @@ class Element : public ScriptObject<Element, RefusedElement, RefusedElement2> {
   Document* document;
   Element* parent;
   std::vector<Element*> children;
+  Window* content = nullptr;  // of a frame
 
   HRESULT STDMETHODCALLTYPE get_tagName(BSTR* text) override;
   HRESULT STDMETHODCALLTYPE get_id(BSTR* text) override;

@@ -1,0 +1,40 @@
+// The browser fixture, run in a process of its own.
+#pragma once
+
+#include <windows.h>
+
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "driver/ChildProcess.h"
+#include "driver/Control.h"
+
+namespace html {
+
+class BrowserProcess {
+ public:
+  // words: of its command line, see FixtureMain.cpp. Waits until its windows stand. Throws
+  // std::runtime_error when that does not come about.
+  explicit BrowserProcess(std::string_view words);
+
+  // "main", "document", "combo" or "list". Throws std::out_of_range.
+  gui::Control operator[](const std::string& name) const;
+  HWND Window() const { return windows_.at("document"); }
+  bool IsRunning() const { return process_.IsRunning(); }
+  const gui::ChildProcess& Process() const { return process_; }
+
+  // What others hold of the page's objects; how many members were called; how often the document
+  // was asked for. -1 when the fixture does not answer.
+  int References() const;
+  int Calls() const;
+  int Requests() const;
+
+ private:
+  int Ask(UINT message) const;
+
+  gui::ChildProcess process_;
+  std::map<std::string, HWND> windows_;
+};
+
+}  // namespace html
