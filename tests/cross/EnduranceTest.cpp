@@ -2,46 +2,15 @@
 #include <windows.h>
 
 #include <gtest/gtest.h>
-#include <psapi.h>
-#include <winternl.h>
 
-#include <cstdint>
 #include <cstdio>
-#include <vector>
 
 #include "ListFixture.h"
 #include "Reading.h"
+#include "driver/Holdings.h"
 
 namespace cross {
 namespace {
-
-// The counters for handles that the system offers are 0 in Wine; its list of all handles is true.
-int CountHandles() {
-  struct Entry {
-    std::uint16_t process;
-    std::uint16_t rest[7];
-  };
-  static_assert(sizeof(Entry) == 16);
-  constexpr int kHandleInformation = 16;
-  std::vector<std::uint32_t> buffer(1U << 20);
-  if (NtQuerySystemInformation(static_cast<SYSTEM_INFORMATION_CLASS>(kHandleInformation),
-                               buffer.data(), static_cast<ULONG>(buffer.size() * 4),
-                               nullptr) != 0) {
-    return -1;
-  }
-  const auto* entries = reinterpret_cast<const Entry*>(buffer.data() + 1);
-  int count = 0;
-  for (std::uint32_t i = 0; i < buffer[0]; ++i) {
-    if (entries[i].process == static_cast<std::uint16_t>(GetCurrentProcessId())) ++count;
-  }
-  return count;
-}
-
-double UsedMegabytes() {
-  PROCESS_MEMORY_COUNTERS counters = {};
-  K32GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
-  return static_cast<double>(counters.PagefileUsage) / (1 << 20);
-}
 
 // Five readings of the first fixture, and one of a program that dies of it.
 int ReadAll(const ListFixture& lying, bool withADeath) {
@@ -71,15 +40,18 @@ TEST(EnduranceTest, FiveHundredReadingsLeaveNothingBehind) {
   Read("simplecombo", lying["simplecombo"]);
   for (int i = 0; i < 5; ++i) ReadAll(lying, true);
 
-  const int handles = CountHandles();
-  const double megabytes = UsedMegabytes();
-  ASSERT_GT(handles, 0);
+  const gui::Holdings before = gui::OwnHoldings();
+  ASSERT_GT(before.handles, 0);
+  ASSERT_GT(before.gdiObjects, 0);
   int readings = 0;
   for (int i = 0; readings < 500; ++i) readings += ReadAll(lying, i % 5 == 0);
-  std::printf("%d readings | handles %d, then %d | %.1f MB, then %.1f MB\n", readings, handles,
-              CountHandles(), megabytes, UsedMegabytes());
-  EXPECT_LE(CountHandles(), handles);
-  EXPECT_LE(UsedMegabytes(), megabytes + 1);
+  const gui::Holdings after = gui::OwnHoldings();
+  std::printf("%d readings | before: %s | after: %s\n", readings, before.Text().c_str(),
+              after.Text().c_str());
+  EXPECT_LE(after.handles, before.handles);
+  EXPECT_LE(after.gdiObjects, before.gdiObjects);
+  EXPECT_LE(after.windows, before.windows);
+  EXPECT_LE(after.megabytes, before.megabytes + 1);
 }
 
 }  // namespace
