@@ -3,7 +3,12 @@
 //   idle     a timer looks at the hot key, at T and at A
 //   capture  a loop sleeps, pumps messages and looks at the hot key, and a timer asks for the
 //            pointer and the window under it
+//   report   the same, and once the pointer has rested for 50 ms the object and the window there
+//            are asked for their texts; the window's becomes the caption
 #include <windows.h>
+
+#include <objbase.h>
+#include <oleacc.h>
 
 #include <cwchar>
 #include <initializer_list>
@@ -22,10 +27,12 @@ bool PollIdleKeys() {
   return pressed;
 }
 
-HWND SamplePointer() {
-  POINT point = {};
-  GetCursorPos(&point);
-  return WindowFromPoint(point);
+POINT pointer = {};
+HWND target = nullptr;
+
+void SamplePointer() {
+  GetCursorPos(&pointer);
+  target = WindowFromPoint(pointer);
 }
 
 LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -73,6 +80,50 @@ void RunCapture(HWND window) {
   } while (Pump() && last != 1);
 }
 
+void ReadObject() {
+  IAccessible* object = nullptr;
+  VARIANT child;
+  VariantInit(&child);
+  if (FAILED(AccessibleObjectFromPoint(pointer, &object, &child))) return;
+  BSTR name = nullptr;
+  object->get_accName(child, &name);
+  SysFreeString(name);
+  VariantClear(&child);
+  object->Release();
+}
+
+void Report(HWND window) {
+  static wchar_t text[1000];
+  GetClassNameW(target, text, 1000);
+  GetWindowTextW(target, text, 1000);
+  ReadObject();
+  SendMessageW(target, WM_GETTEXTLENGTH, 0, 0);
+  SendMessageW(target, WM_GETTEXT, 1000, reinterpret_cast<LPARAM>(text));
+  SetWindowTextW(window, text);
+}
+
+void RunReports(HWND window) {
+  CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+  SetTimer(window, kSampleTimer, 10, nullptr);
+  POINT last = {};
+  DWORD since = 0;
+  bool reported = true;
+  do {
+    const DWORD now = GetTickCount();
+    if (pointer.x != last.x || pointer.y != last.y) {
+      last = pointer;
+      since = now;
+      reported = false;
+    }
+    if (!reported && now - since >= 50) {
+      Report(window);
+      reported = true;
+    }
+    Sleep(10);
+  } while (Pump());
+  CoUninitialize();
+}
+
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t* words, int) {
@@ -88,6 +139,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t* words, int) {
   ShowWindow(window, SW_SHOWNORMAL);
   if (std::wcscmp(words, L"capture") == 0) {
     RunCapture(window);
+  } else if (std::wcscmp(words, L"report") == 0) {
+    RunReports(window);
   } else {
     RunIdle(window);
   }

@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "Yardstick.h"
 #include "capture/OutputDelivery.h"
 #include "capture/WindowInformation.h"
 #include "driver/ChildProcess.h"
@@ -33,7 +34,8 @@ double Milliseconds(Work&& work) {
 class WindowTree {
  public:
   explicit WindowTree(int children)
-      : process_(Program(), std::to_string(children), Program().parent_path()) {
+      : process_(Yardstick(L"bench_window_tree.exe"), std::to_string(children),
+                 Yardstick(L"").parent_path()) {
     const std::wstring title = std::to_wstring(children);
     const auto deadline = Clock::now() + std::chrono::seconds(60);
     while (root_ == nullptr || !IsWindowVisible(root_)) {
@@ -45,12 +47,6 @@ class WindowTree {
   HWND Root() const { return root_; }
 
  private:
-  static std::filesystem::path Program() {
-    wchar_t own[MAX_PATH] = {};
-    GetModuleFileNameW(nullptr, own, MAX_PATH);
-    return std::filesystem::path(own).parent_path() / "bench_window_tree.exe";
-  }
-
   gui::ChildProcess process_;
   HWND root_ = nullptr;
 };

@@ -6,9 +6,6 @@
 #include <sstream>
 
 namespace bench {
-namespace {
-
-// The value below which that share of the values lies; part is between 0 and 1.
 double Quantile(std::vector<double> values, double part) {
   std::sort(values.begin(), values.end());
   const double place = part * static_cast<double>(values.size() - 1);
@@ -17,8 +14,6 @@ double Quantile(std::vector<double> values, double part) {
   const double rest = place - static_cast<double>(below);
   return values[below] * (1 - rest) + values[above] * rest;
 }
-
-}  // namespace
 
 Summary Summarise(const std::vector<Pair>& pairs) {
   std::vector<double> ratios;

@@ -19,6 +19,9 @@ struct Summary {
   double spread;  // the distance between the quartiles of the pairs' ratios
 };
 
+// The value below which that part of the values lies, between 0 and 1. values must not be empty.
+double Quantile(std::vector<double> values, double part);
+
 // pairs must not be empty.
 Summary Summarise(const std::vector<Pair>& pairs);
 

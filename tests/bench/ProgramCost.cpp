@@ -1,0 +1,77 @@
+#include "ProgramCost.h"
+
+#include <windows.h>
+
+#include <chrono>
+#include <filesystem>
+
+#include "ProcessorTime.h"
+#include "Yardstick.h"
+#include "driver/ChildProcess.h"
+#include "driver/Paths.h"
+#include "driver/Pointer.h"
+#include "driver/Program.h"
+
+namespace bench {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int kStarts = 31;
+constexpr int kRounds = 7;
+constexpr gui::Milliseconds kRound{4000};
+constexpr gui::Milliseconds kWarmUp{1500};
+
+double MillisecondsSince(Clock::time_point start) {
+  return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+}
+
+// From the start of the process to its visible window.
+double StartUpTime(const std::filesystem::path& program, const wchar_t* windowClass) {
+  const auto start = Clock::now();
+  const gui::ChildProcess process(program, "", program.parent_path());
+  for (;;) {
+    HWND window = FindWindowW(windowClass, nullptr);
+    if (window != nullptr && IsWindowVisible(window)) return MillisecondsSince(start);
+    Sleep(1);
+  }
+}
+
+}  // namespace
+
+std::vector<Pair> MeasureStartUp() {
+  const std::filesystem::path folder = gui::FreshFolder();
+  const std::filesystem::path program = folder / "Velmora.exe";
+  std::filesystem::copy_file(gui::ProgramFile(), program);
+  const std::filesystem::path yardstick = Yardstick(L"bench_empty_window.exe");
+  std::vector<Pair> pairs;
+  for (int i = 0; i <= kStarts; ++i) {
+    const double ours = StartUpTime(program, L"frmQuorvinFromPoint");
+    const double theirs = StartUpTime(yardstick, L"BenchEmptyWindow");
+    if (i > 0) pairs.push_back({ours, theirs});  // the first start fills the caches
+  }
+  return pairs;
+}
+
+// Both run side by side, with the pointer at rest.
+std::vector<Pair> MeasureProcessorTime(bool capturing) {
+  gui::pointer::Park();
+  const std::filesystem::path yardstick = Yardstick(L"bench_bare_loop.exe");
+  const gui::ChildProcess bare(yardstick, capturing ? "capture" : "idle", yardstick.parent_path());
+  const gui::Program program;
+  if (capturing) program.StartCapture();
+  gui::Last(kWarmUp);
+
+  const ProcessorTime ours(program.Process().Handle(), program.Folder() / "Velmora.exe");
+  const ProcessorTime theirs(bare.Handle(), yardstick);
+  std::vector<Pair> pairs;
+  for (int i = 0; i < kRounds; ++i) {
+    const double ourStart = ours.Now();
+    const double theirStart = theirs.Now();
+    gui::Last(kRound);
+    pairs.push_back({ours.Now() - ourStart, theirs.Now() - theirStart});
+  }
+  return pairs;
+}
+
+}  // namespace bench
