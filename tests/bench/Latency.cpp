@@ -68,8 +68,10 @@ class BareCapture {
   HWND window_ = nullptr;
 };
 
-Pair OneStop(POINT point, const std::string& text, const gui::Control& pane,
+Pair OneStop(int moment, POINT point, const std::string& text, const gui::Control& pane,
              const BareCapture& bare) {
+  // A hand does not wait for the pane before it moves on: the stops fall anywhere in a pass.
+  gui::Last(gui::Milliseconds{40 + moment % 17});
   gui::pointer::MoveTo(point);
   const auto start = Clock::now();
   Pair pair{};
@@ -94,7 +96,7 @@ std::vector<Pair> MeasureLatency() {
   std::vector<Pair> pairs;
   for (int i = 0; i <= kStops; ++i) {
     const std::size_t side = static_cast<std::size_t>(i) % 2;
-    const Pair stop = OneStop(notepads.Stop(side), kTexts[side], pane, bare);
+    const Pair stop = OneStop(i * 7, notepads.Stop(side), kTexts[side], pane, bare);
     if (i > 0) pairs.push_back(stop);  // the first one loads what the system needs
   }
   return pairs;
