@@ -7,13 +7,15 @@
 #include <oleauto.h>
 
 #include <string>
+#include <string_view>
 
 namespace platform {
 
-// Owns a BSTR, received through Receive().
+// Owns a BSTR, received through Receive() or made of a text.
 class UniqueBstr {
  public:
   UniqueBstr() = default;
+  explicit UniqueBstr(const wchar_t* text) : text_(SysAllocString(text)) {}
   UniqueBstr(const UniqueBstr&) = delete;
   UniqueBstr& operator=(const UniqueBstr&) = delete;
   ~UniqueBstr() { SysFreeString(text_); }
@@ -25,10 +27,14 @@ class UniqueBstr {
     return &text_;
   }
 
-  // The whole text, embedded zero characters included; empty when nothing is held.
-  std::wstring Text() const {
-    return text_ == nullptr ? std::wstring() : std::wstring(text_, SysStringLen(text_));
+  BSTR Get() const noexcept { return text_; }
+
+  // The whole text, embedded zero characters included; empty when nothing is held. A view lasts
+  // as long as the text is held.
+  std::wstring_view View() const {
+    return text_ == nullptr ? std::wstring_view() : std::wstring_view(text_, SysStringLen(text_));
   }
+  std::wstring Text() const { return std::wstring(View()); }
 
  private:
   BSTR text_ = nullptr;

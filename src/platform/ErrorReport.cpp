@@ -27,6 +27,18 @@ class OpenBox {
   OpenBox& operator=(const OpenBox&) = delete;
 };
 
+// The exception that is being handled.
+NumberedError CurrentError() {
+  try {
+    throw;
+  } catch (const NumberedError& error) {
+    return error;
+  } catch (...) {
+    // The standard library fails for want of memory or for lengths beyond it.
+    return {ERROR_NOT_ENOUGH_MEMORY, SystemDescription(ERROR_NOT_ENOUGH_MEMORY)};
+  }
+}
+
 }  // namespace
 
 MessageBoxFunction SetMessageBox(MessageBoxFunction function) {
@@ -55,15 +67,11 @@ NumberedError InvalidArgument() {
   return {ERROR_INVALID_PARAMETER, SystemDescription(ERROR_INVALID_PARAMETER)};
 }
 
-void ReportCurrentError(std::wstring_view procedure) {
-  try {
-    throw;
-  } catch (const NumberedError& error) {
-    ReportError(procedure, error);
-  } catch (...) {
-    // The standard library fails for want of memory or for lengths beyond it.
-    ReportError(procedure, {ERROR_NOT_ENOUGH_MEMORY, SystemDescription(ERROR_NOT_ENOUGH_MEMORY)});
-  }
+void ReportCurrentError(std::wstring_view procedure) { ReportError(procedure, CurrentError()); }
+
+void ReportCurrentErrorAtLine(std::wstring_view procedure) {
+  const NumberedError error = CurrentError();
+  ReportError(procedure, {error.Number(), error.Description() + L"\r\nError Line = 0"});
 }
 
 void ReportError(std::wstring_view procedure, const NumberedError& error) {

@@ -41,6 +41,10 @@ void ReportError(std::wstring_view procedure, const NumberedError& error);
 // The same for the exception that is being handled, whatever it is; for catch blocks.
 void ReportCurrentError(std::wstring_view procedure);
 
+// The same for procedures that name the line of the failure, too: it is not known here and shown
+// as 0.
+void ReportCurrentErrorAtLine(std::wstring_view procedure);
+
 // What the system says about one of its error numbers, without the line end.
 std::wstring SystemDescription(long number);
 

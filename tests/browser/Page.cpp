@@ -37,6 +37,7 @@ Element& Page::AddElement(const ElementData& data, Document& document, Element* 
     Window& outer = *document.window;
     Window& inner =
         windows_.emplace_back(watch, data.windowName.value_or(data.name.value_or(L"")), &outer);
+    inner.frameElement = &element;
     outer.frames.push_back(&inner);
     element.content = &inner;
     AddDocument(content, inner);

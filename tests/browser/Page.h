@@ -94,7 +94,8 @@ class Window : public ScriptObject<Window, RefusedWindow> {
   bool Knows(const Member&) const { return true; }
 
   Document* content = nullptr;
-  Window* parent;  // of the topmost window: itself
+  Element* frameElement = nullptr;  // that this is the window of
+  Window* parent;                   // of the topmost window: itself
   std::vector<Window*> frames;
 
   HRESULT STDMETHODCALLTYPE item(VARIANT* index, VARIANT* frame) override;
@@ -105,6 +106,8 @@ class Window : public ScriptObject<Window, RefusedWindow> {
   HRESULT STDMETHODCALLTYPE get_document(IHTMLDocument2** document) override;
 
  private:
+  static HRESULT FrameElement(Window& window, VARIANT* answer);
+
   std::wstring name_;
 };
 

@@ -11,6 +11,7 @@ std::span<const Window::Member> Window::Members() {
       {L"name", DISPID_IHTMLWINDOW2_NAME, Read<&Window::get_name>},
       {L"parent", DISPID_IHTMLWINDOW2_PARENT, Read<&Window::get_parent>},
       {L"document", DISPID_IHTMLWINDOW2_DOCUMENT, Read<&Window::get_document>},
+      {L"frameElement", DISPID_IHTMLWINDOW4_FRAMEELEMENT, &Window::FrameElement},
   };
   return kMembers;
 }
@@ -69,6 +70,13 @@ HRESULT Window::get_name(BSTR* text) {
   *text = nullptr;
   if (const HRESULT failure = Enter("name"); failure != S_OK) return failure;
   *text = NewText(name_);
+  return S_OK;
+}
+
+HRESULT Window::FrameElement(Window& window, VARIANT* answer) {
+  if (const HRESULT failure = window.Enter("frameElement"); failure != S_OK) return failure;
+  if (window.frameElement != nullptr) window.frameElement->AddRef();
+  Give(static_cast<IHTMLElement*>(window.frameElement), answer);
   return S_OK;
 }
 

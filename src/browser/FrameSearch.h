@@ -1,0 +1,29 @@
+// The frames of a document. What fails throws platform::NumberedError, so that a descent can end
+// where it stands.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+
+#include "browser/Interfaces.h"
+
+namespace MyInternetexplore {
+
+// Throws when the call failed.
+void Require(HRESULT result);
+
+// The first frame for which isIt says so, in the order of the document; empty when there is none.
+WindowPtr FindFrame(IHTMLDocument2* document, const std::function<bool(IHTMLWindow2*)>& isIt);
+
+// Searches the frames by their names: equal texts, or equal as variants (a text and an empty
+// variant are equal when the text is empty, nothing equals null). A frame without a name has an
+// empty one.
+WindowPtr FindFrameNamed(IHTMLDocument2* document, const std::wstring& name);
+WindowPtr FindFrameNamed(IHTMLDocument2* document, const VARIANT& name);
+
+// What is one and the same object, whichever of its interfaces it is held by.
+bool IsSame(IUnknown* a, IUnknown* b);
+
+}  // namespace MyInternetexplore

@@ -1,0 +1,83 @@
+#include "browser/MyInternetexplore.h"
+
+#include <cstring>
+
+#include "browser/FrameSearch.h"
+#include "platform/ErrorReport.h"
+
+namespace MyInternetexplore {
+namespace {
+
+constexpr wchar_t kNoDocument[] = L"GetElByPos:Generate Html-DOC failed";
+
+// The object of the answer, asked for by id; empty when it is refused.
+Microsoft::WRL::ComPtr<IUnknown> ObjectOf(DWORD_PTR answer, REFIID id, BrowserCalls& calls) {
+  Microsoft::WRL::ComPtr<IUnknown> object;
+  if (answer == 0) return object;
+  void* received = nullptr;
+  if (FAILED(calls.ObjectFromLresult(static_cast<LRESULT>(answer), id, 0, &received))) return {};
+  // Whatever its identifier, an interface begins with these three methods.
+  *object.GetAddressOf() = static_cast<IUnknown*>(received);
+  return object;
+}
+
+DocumentPtr RequestDocument(HWND hwnd, const BrowserAccess& access) {
+  const UINT message = access.calls.RegisterWindowMessageA("WM_HTML_GETOBJECT");
+  if (message == 0) Require(HRESULT_FROM_WIN32(GetLastError()));
+
+  IID id = IID_IHTMLDocument;
+  DWORD_PTR answer = access.messages.Send(hwnd, message);
+  // The object is asked for under no identifier at all: the server then gives its own choice.
+  std::memset(&id, 0, sizeof id);
+  Microsoft::WRL::ComPtr<IUnknown> object = ObjectOf(answer, id, access.calls);
+  if (answer != 0 && !object) {
+    // Where that is refused, the document is asked for by its name. An answer serves only once.
+    answer = access.messages.Send(hwnd, message);
+    object = ObjectOf(answer, IID_IHTMLDocument2, access.calls);
+  }
+
+  DocumentPtr document;
+  if (!object || FAILED(object.As(&document))) return {};
+  return document;
+}
+
+}  // namespace
+
+DocumentPtr GetIeObjFromhWnd(HWND hwnd, const BrowserAccess& access) {
+  try {
+    return RequestDocument(hwnd, access);
+  } catch (...) {
+    platform::ReportCurrentErrorAtLine(L"Generate");
+    return {};
+  }
+}
+
+FoundElement FindElement(POINT readPoint, POINT origin, IHTMLDocument2* document,
+                         const BrowserAccess& access) {
+  FoundElement found;
+  const DocumentPtr inner = ResolveFrameDocument(readPoint, origin, document, origin, found.frames);
+  if (inner) {
+    found.element = GetElFromPoint(origin, inner.Get(), origin, found.frames, access.calls);
+  }
+  return found;
+}
+
+POINT OriginOf(HWND hwnd, const BrowserAccess& access) {
+  RECT place{};
+  access.calls.GetWindowRect(hwnd, &place);
+  return {place.left, place.top};
+}
+
+ElementPtr GetElByPos(int x, int y, const BrowserAccess& access, const ShowMessage& showMessage) {
+  const POINT point{x, y};
+  const HWND hwnd = access.calls.WindowFromPoint(point);
+  const POINT origin = OriginOf(hwnd, access);
+  const DocumentPtr document = GetIeObjFromhWnd(hwnd, access);
+  if (!document) {
+    showMessage(kNoDocument);
+    return {};
+  }
+  return FindElement(point, origin, document.Get(), access).element;
+}
+
+}  // namespace MyInternetexplore
