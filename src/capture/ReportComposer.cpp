@@ -1,9 +1,11 @@
 #include "capture/ReportComposer.h"
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 #include "capture/CaptureWords.h"
+#include "capture/ElementTable.h"
 #include "capture/OutputDelivery.h"
 #include "extract/StringUtilities.h"
 
@@ -28,13 +30,13 @@ class Report {
     ReadWindow();
     ClearSlots();
     ReadTextAtPoint();
-    const Category category = CategoryOf(window_.className);
-    if (category == Category::Ie) {
-      ReadDocument();
+    if (category_ == Category::Ie) {
+      // The report on an element stands where the window's information would.
+      if (!ReadPage()) ShowWindowInformation();
     } else {
-      ReadList(category);
+      ReadList();
+      ShowWindowInformation();
     }
-    ShowWindowInformation();
     ReadAccessible();
     ReadStatus();
   }
@@ -58,6 +60,15 @@ class Report {
   void ReadWindow() {
     Attempt([&] { window_ = readers_.Facts(target_); });
     SetText(ViewText::txtWin0, window_.className);
+    category_ = CategoryOf(window_.className);
+  }
+
+  // Whether the target can be asked what its thread must answer, without end if it hangs. Pages
+  // hang more often than anything else, and whoever reads them has waited for them already.
+  bool Answers() const {
+    bool answers = true;
+    if (category_ == Category::Ie) Attempt([&] { answers = readers_.Answers(target_); });
+    return answers;
   }
 
   void ClearSlots() const {
@@ -71,18 +82,51 @@ class Report {
     std::wstring text;
     std::wstring method;
     Attempt([&] {
-      text = Set().fromHwnd == 1 ? readers_.NameOfWindow(target_)
-                                 : readers_.TextFromPoint(point_, method);
+      if (Set().fromHwnd != 1) {
+        text = readers_.TextFromPoint(point_, method, [this](const std::wstring& message) {
+          SetText(ViewText::lblMsg, message);
+        });
+      } else if (Answers()) {
+        text = readers_.NameOfWindow(target_);
+      }
     });
     SetText(ViewText::txtWin3, text);
     SetText(ViewText::lblTextKind, method);
     State().TopTexts[2] = WithLineEnds(text);
   }
 
-  // A page is marked as one also when its window gives no document.
-  void ReadDocument() const {
+  HWND WindowOfDocument() const {
+    HWND parent = nullptr;
+    Attempt([&] { parent = context_.system.Parent(target_); });
+    return DocumentWindow(window_.className, target_, parent);
+  }
+
+  // Returns whether there is a page. The window of a browser counts as one also when it gives no
+  // document.
+  bool ReadPage() const {
     State().BottomTexts[0] = L"1";
     Attempt([&] { context_.view.SetVisible(ViewText::txtCount, false); });
+    const HWND window = WindowOfDocument();
+    if (window == nullptr) return false;
+    std::unique_ptr<MyInternetexplore::PageReader> page;
+    Attempt([&] { page = readers_.Page(window, point_); });
+    if (!page) return false;
+
+    MyInternetexplore::PageTexts texts;
+    Attempt([&] { texts = page->Texts(); });
+    State().BottomTexts[3] = texts.displayed;
+    State().BottomTexts[2] = texts.markup;
+    Attempt([&] { context_.system.Pump(); });
+
+    MyInternetexplore::PageFacts facts;
+    Attempt([&] { facts = page->Facts(Session([](const std::wstring&) {})); });
+    State().BottomTexts[1] = ElementReport(facts, Set().htmlTagTextLength);
+    SetText(ViewText::txtWin1, facts.chain.empty()
+                                   ? std::wstring()
+                                   : facts.framePath + L"　" + facts.chain.back().tag);
+    SetText(ViewText::lblTextKind, L"HTML");
+    Redisplay();
+    return true;
   }
 
   platform::ReadSession Session(std::function<void(const std::wstring&)> showProgress) const {
@@ -90,12 +134,14 @@ class Report {
             [this] { return State().CaptureRunning; }};
   }
 
-  void ReadList(Category category) const {
+  void ReadList() const {
     std::wstring text;
     std::wstring method;
     platform::ReadSession session =
         Session([this](const std::wstring& progress) { SetText(ViewText::txtCount, progress); });
-    Attempt([&] { text = ReadByCategory(readers_, category, {target_, point_, session, method}); });
+    Attempt([&] {
+      text = ReadByCategory(readers_, category_, {target_, point_, session, method});
+    });
     State().BottomTexts[1].clear();
     State().BottomTexts[2] = text;
     Redisplay();
@@ -115,6 +161,7 @@ class Report {
     // The count that the list's reader showed last stays.
     const platform::ReadSession session = Session([](const std::wstring&) {});
     Attempt([&] {
+      if (!Answers()) return;
       texts = readers_.Accessible(Set().fromHwnd == 1 ? target_ : nullptr, point_, session);
     });
     State().TopTexts[1] = texts.report;
@@ -126,7 +173,9 @@ class Report {
     if (Set().hint != 0) return;
     SetText(ViewText::txtStatus, {});
     std::wstring text;
-    Attempt([&] { text = readers_.StatusText(target_, window_.className, window_.title); });
+    Attempt([&] {
+      if (Answers()) text = readers_.StatusText(target_, window_.className, window_.title);
+    });
     SetText(ViewText::txtStatus, text);
   }
 
@@ -135,6 +184,7 @@ class Report {
   const HWND target_;
   const POINT point_;
   WindowFacts window_;
+  Category category_ = Category::Other;
 };
 
 }  // namespace

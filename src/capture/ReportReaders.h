@@ -3,9 +3,12 @@
 
 #include <windows.h>
 
+#include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
+#include "browser/PageReader.h"
 #include "capture/ControlCategory.h"
 #include "capture/WindowInformation.h"
 #include "platform/ReadSession.h"
@@ -35,8 +38,11 @@ class ReportReaders {
   // These facts with what is around the window: owner, ancestors, visible descendants.
   virtual WindowInformation Information(const WindowFacts& window) = 0;
 
-  // The text at the point: of the object there, or the window's own accessible name.
-  virtual std::wstring TextFromPoint(POINT point, std::wstring& method) = 0;
+  // The text at the point: of the object there, or the window's own accessible name. showMessage
+  // is for what the user should know besides.
+  virtual std::wstring TextFromPoint(
+      POINT point, std::wstring& method,
+      const std::function<void(const std::wstring&)>& showMessage) = 0;
   virtual std::wstring NameOfWindow(HWND hwnd) = 0;
 
   // One a category.
@@ -51,6 +57,11 @@ class ReportReaders {
   virtual std::wstring GetTooltipText(const CategoryRead& read) = 0;
   virtual std::wstring GetOther(const CategoryRead& read) = 0;
   virtual std::wstring GetChildText(const CategoryRead& read) = 0;
+
+  // The page in a browser's window and its element at the point; null when there is no document.
+  virtual std::unique_ptr<MyInternetexplore::PageReader> Page(HWND documentWindow, POINT point) = 0;
+  // Whether the window of a browser answers messages; waits 2 s at most, and not again soon.
+  virtual bool Answers(HWND hwnd) = 0;
 
   // The accessible object of the window hwnd, or, when that is null, at the point.
   virtual AccessibleTexts Accessible(HWND hwnd, POINT point,

@@ -3,6 +3,9 @@
 #include "accessibility/AccessibleListing.h"
 #include "accessibility/AccessibleReport.h"
 #include "accessibility/MyAccessible.h"
+#include "browser/MyInternetexplore.h"
+#include "browser/OpenPage.h"
+#include "capture/ElementTable.h"
 #include "capture/StatusText.h"
 #include "extract/ControlText.h"
 #include "extract/CsvText.h"
@@ -51,9 +54,10 @@ class SystemReaders : public ReportReaders {
     return ReadWindowInformation(window);
   }
 
-  std::wstring TextFromPoint(POINT point, std::wstring& method) override {
+  std::wstring TextFromPoint(POINT point, std::wstring& method,
+                             const std::function<void(const std::wstring&)>& showMessage) override {
     return extract::MyGetControlTextFromPoint(point.x, point.y, settings_.accValueText, false,
-                                              method);
+                                              method, browser_, showMessage);
   }
   std::wstring NameOfWindow(HWND hwnd) override { return MyAccessible::AccNameOfWindow(hwnd); }
 
@@ -93,6 +97,13 @@ class SystemReaders : public ReportReaders {
     return extract::GetChildText(read.hwnd, read.method);
   }
 
+  std::unique_ptr<MyInternetexplore::PageReader> Page(HWND documentWindow, POINT point) override {
+    return MyInternetexplore::OpenPage(
+        documentWindow, point, {settings_.startNode, CharactersNeeded(settings_.htmlTagTextLength)},
+        browser_);
+  }
+  bool Answers(HWND hwnd) override { return messages_.Answers(hwnd); }
+
   AccessibleTexts Accessible(HWND hwnd, POINT point,
                              const platform::ReadSession& session) override {
     MyAccessible::ReportedWindow window;
@@ -114,6 +125,9 @@ class SystemReaders : public ReportReaders {
 
  private:
   const settings::Settings& settings_;
+  MyInternetexplore::BoundedMessages messages_{MyInternetexplore::SystemBrowserCalls()};
+  const MyInternetexplore::BrowserAccess browser_{MyInternetexplore::SystemBrowserCalls(),
+                                                  messages_};
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "extract/PointText.h"
 
 #include "accessibility/MyAccessible.h"
+#include "browser/ElementReaders.h"
 #include "extract/StringUtilities.h"
 #include "extract/Win32API_Window.h"
 
@@ -23,10 +24,23 @@ std::wstring ElementText(const ElementTexts& element, std::wstring& method) {
 
 class ScreenPoint : public PointSources {
  public:
-  explicit ScreenPoint(POINT point) : point_(point), hwnd_(WindowFromPoint(point)) {}
+  ScreenPoint(POINT point, const MyInternetexplore::BrowserAccess& browser,
+              const MyInternetexplore::ShowMessage& showMessage)
+      : point_(point),
+        hwnd_(WindowFromPoint(point)),
+        browser_(browser),
+        showMessage_(showMessage) {}
 
   std::wstring ClassName() override { return Win32API_Window::MyGetClassName(hwnd_); }
-  std::optional<ElementTexts> Element() override { return std::nullopt; }
+  std::optional<ElementTexts> Element() override {
+    const MyInternetexplore::ElementPtr element =
+        MyInternetexplore::GetElByPos(point_.x, point_.y, browser_, showMessage_);
+    if (!element) return std::nullopt;
+    return ElementTexts{MyInternetexplore::GetElValue(element.Get()),
+                        MyInternetexplore::GetElTagName(element.Get()),
+                        MyInternetexplore::GetElInnerText(element.Get())};
+  }
+  bool Answers() override { return browser_.messages.Answers(hwnd_); }
   std::wstring AccessibleValue() override {
     return Found() ? MyAccessible::AccValue(found_.object.Get(), found_.child.Get())
                    : std::wstring();
@@ -46,6 +60,8 @@ class ScreenPoint : public PointSources {
 
   POINT point_;
   HWND hwnd_;
+  const MyInternetexplore::BrowserAccess& browser_;
+  const MyInternetexplore::ShowMessage& showMessage_;
   bool searched_ = false;
   bool exists_ = false;
   MyAccessible::ObjectAndChild found_;
@@ -66,9 +82,10 @@ std::wstring TextAtPoint(PointSources& sources, std::wstring_view classList, boo
       std::wstring text = ElementText(*element, method);
       if (!text.empty()) return text;
     }
+    method.clear();
+    if (!sources.Answers()) return {};
   }
 
-  method.clear();
   std::wstring text;
   if (WantsAccessibleValue(className, classList)) text = sources.AccessibleValue();
   if (text.empty()) text = sources.AccessibleName();
@@ -84,8 +101,10 @@ std::wstring TextAtPoint(PointSources& sources, std::wstring_view classList, boo
 }
 
 std::wstring MyGetControlTextFromPoint(int x, int y, std::wstring_view classList,
-                                       bool firstLineOnly, std::wstring& method) {
-  ScreenPoint sources({x, y});
+                                       bool firstLineOnly, std::wstring& method,
+                                       const MyInternetexplore::BrowserAccess& browser,
+                                       const MyInternetexplore::ShowMessage& showMessage) {
+  ScreenPoint sources({x, y}, browser, showMessage);
   return TextAtPoint(sources, classList, firstLineOnly, method);
 }
 

@@ -17,6 +17,7 @@ class FakeSources : public PointSources {
     asked.push_back("element");
     return element;
   }
+  bool Answers() override { return answers; }
   std::wstring AccessibleValue() override {
     asked.push_back("value");
     return value;
@@ -32,6 +33,7 @@ class FakeSources : public PointSources {
 
   std::wstring className = L"Button";
   std::optional<ElementTexts> element;
+  bool answers = true;
   std::wstring value;
   std::wstring name;
   std::wstring text;
@@ -89,6 +91,15 @@ TEST_F(PointTextTest, AnEmptyElementLeadsOnToTheOtherSources) {
   sources_.name.clear();
   EXPECT_EQ(Read(), L"");
   EXPECT_EQ(method_, L"");
+}
+
+TEST_F(PointTextTest, ADocumentsWindowThatHangsIsAskedNothingMore) {
+  sources_.className = L"Internet Explorer_Server";
+  sources_.answers = false;
+  sources_.name = L"名前";
+  EXPECT_EQ(Read(), L"");
+  EXPECT_EQ(method_, L"");
+  EXPECT_THAT(sources_.asked, ElementsAre("element"));
 }
 
 TEST_F(PointTextTest, OnlyTheDocumentsWindowHasAnElement) {
