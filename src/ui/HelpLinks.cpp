@@ -1,6 +1,5 @@
 #include "ui/HelpLinks.h"
 
-#include <algorithm>
 #include <string_view>
 
 #include "BuildOptions.h"
@@ -8,10 +7,33 @@
 namespace ui {
 namespace {
 
-std::wstring OwnPage(const std::wstring& programFolder) {
-  std::wstring address = L"file:///" + programFolder + L"/help/index.html";
-  std::ranges::replace(address, L'\\', L'/');
+// Anything else of ASCII means something in an address, or ends a word of the explorer's command
+// line, and folders are called "C# 100%", too.
+bool StandsForItself(wchar_t c) {
+  constexpr std::wstring_view kSigns = L"-._~/:!$&'()+@";
+  const bool isLetter = (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z');
+  const bool isDigit = c >= L'0' && c <= L'9';
+  return c > 0x7F || isLetter || isDigit || kSigns.find(c) != kSigns.npos;
+}
+
+std::wstring FileAddress(std::wstring_view path) {
+  constexpr std::wstring_view kDigits = L"0123456789ABCDEF";
+  // A path on another computer brings its two slashes along.
+  std::wstring address = path.starts_with(L"\\\\") ? L"file:" : L"file:///";
+  for (const wchar_t c : path) {
+    if (c == L'\\') {
+      address += L'/';
+    } else if (StandsForItself(c)) {
+      address += c;
+    } else {
+      address += {L'%', kDigits[c >> 4U], kDigits[c & 0xFU]};
+    }
+  }
   return address;
+}
+
+std::wstring OwnPage(const std::wstring& programFolder) {
+  return FileAddress(programFolder + L"\\help\\index.html");
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 
 #include <commctrl.h>
 
-#include <algorithm>
 #include <array>
 #include <fstream>
 #include <string>
@@ -15,6 +14,7 @@
 #include "TemporaryFolder.h"
 #include "extract/Win32API_Window.h"
 #include "ui/ControlIds.h"
+#include "ui/HelpLinks.h"
 #include "ui/MainWindowControls.h"
 #include "ui/frmQuorvinFromPoint.h"
 
@@ -146,10 +146,8 @@ TEST_F(MainWindowTest, TellsWhatTheButtonDoes) {
 
 TEST_F(MainWindowTest, LinksTellTheirAddressesInTheirTips) {
   Load("");
-  std::wstring page = L"file:///" + folder_.Path().wstring() + L"/help/index.html";
-  std::ranges::replace(page, L'\\', L'/');
-  EXPECT_EQ(Tip(Help_Url), page);
-  EXPECT_EQ(Tip(MyUrl), page + L"#about");
+  EXPECT_EQ(Tip(Help_Url), HelpAddress(folder_.Path().wstring()));
+  EXPECT_EQ(Tip(MyUrl), HomeAddress(folder_.Path().wstring()));
 }
 
 TEST_F(MainWindowTest, APanesTipCountsItsCharacters) {
