@@ -45,7 +45,7 @@ TEST_F(RealProgramsTest, NotepadWithAJapaneseText) {
     std::ofstream out(file, std::ios::binary);
     out << ToCodePage(text);
   }
-  const std::string argument = ToUtf8(file.wstring());  // holds no blank
+  const std::string argument = "\"" + ToUtf8(file.wstring()) + "\"";
   const WineProgram notepad("notepad.exe", argument, "Notepad");
   notepad.MoveTo(30, 30, 560, 420);
   const Program program({.folder = file.parent_path()});

@@ -50,7 +50,7 @@ class ReportTest : public GuiTest {
   static std::string ArgumentFor(const std::string& text, const wchar_t* name) {
     const std::filesystem::path file = FreshFolder() / name;
     std::ofstream(file, std::ios::binary) << ToCodePage(text);
-    return ToUtf8(file.wstring());
+    return "\"" + ToUtf8(file.wstring()) + "\"";
   }
 };
 

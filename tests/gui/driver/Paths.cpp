@@ -16,9 +16,25 @@ std::filesystem::path FromBuildPath(std::string path) {
 
 }  // namespace
 
-std::filesystem::path ProgramFile() { return FromBuildPath(GUI_PROGRAM_FILE); }
+std::filesystem::path PackageFolder() { return FromBuildPath(GUI_PACKAGE_FOLDER); }
+
+std::filesystem::path ProgramFile() { return PackageFolder() / "Velmora.exe"; }
+
+// Entry by entry: on Windows the library's copying of a whole tree refuses a folder that exists.
+void CopyPackageTo(const std::filesystem::path& folder) {
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(PackageFolder())) {
+    const auto target = folder / entry.path().lexically_relative(PackageFolder());
+    if (entry.is_directory()) {
+      std::filesystem::create_directory(target);
+    } else {
+      std::filesystem::copy_file(entry.path(), target);
+    }
+  }
+}
 
 std::filesystem::path FixtureFile() { return FromBuildPath(GUI_FIXTURE_FILE); }
+
+std::filesystem::path CommandRecorderFile() { return FromBuildPath(GUI_COMMAND_RECORDER_FILE); }
 
 std::string TestName() {
   const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
@@ -29,7 +45,8 @@ std::string TestName() {
 }
 
 std::filesystem::path FreshFolder() {
-  const std::filesystem::path folder = FromBuildPath(GUI_SCRATCH_FOLDER) / TestName();
+  const std::filesystem::path folder =
+      FromBuildPath(GUI_SCRATCH_FOLDER) / L"列取得 の 試験" / TestName();
   std::filesystem::remove_all(folder);
   std::filesystem::create_directories(folder);
   return folder;

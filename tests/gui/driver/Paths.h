@@ -5,10 +5,19 @@
 
 namespace gui {
 
+// What users get: the folder of the unpacked package, and the program in it. Not to be run there,
+// where its settings would stay.
+std::filesystem::path PackageFolder();
 std::filesystem::path ProgramFile();
-std::filesystem::path FixtureFile();
 
-// A folder of the running test's own, emptied; its name holds the test's name.
+// Copies what the package holds into a folder that exists.
+void CopyPackageTo(const std::filesystem::path& folder);
+
+std::filesystem::path FixtureFile();
+std::filesystem::path CommandRecorderFile();
+
+// A folder of the running test's own, emptied; its name holds the test's name. Its path holds
+// blanks and Japanese characters, as the places do that users choose.
 std::filesystem::path FreshFolder();
 
 // build/<preset>/screenshots, created when missing.

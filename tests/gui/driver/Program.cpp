@@ -28,8 +28,7 @@ std::string WithCrLf(std::string_view text) {
 std::filesystem::path Prepared(const ProgramStart& start) {
   const std::filesystem::path folder = start.folder.empty() ? FreshFolder() : start.folder;
   std::filesystem::create_directories(folder);
-  const std::filesystem::path program = folder / "Velmora.exe";
-  if (!std::filesystem::exists(program)) std::filesystem::copy_file(ProgramFile(), program);
+  if (!std::filesystem::exists(folder / "Velmora.exe")) CopyPackageTo(folder);
   if (start.conf.has_value()) {
     std::ofstream out(folder / "Conf.txt", std::ios::binary);
     out << ToCodePage(WithCrLf(*start.conf));

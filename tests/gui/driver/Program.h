@@ -25,8 +25,8 @@ struct ProgramStart {
 
 class Program {
  public:
-  // Puts the program and the settings file into the folder, starts it and waits until its main
-  // window is visible and answers. Throws std::runtime_error when that does not come about.
+  // Puts the package and the settings file into the folder, starts the program and waits until its
+  // main window is visible and answers. Throws std::runtime_error when that does not come about.
   explicit Program(const ProgramStart& start = {});
   // Ends the program politely, and by force when it does not follow.
   ~Program();

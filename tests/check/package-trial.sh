@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Spoils a package and lets package.sh look at it, which has to complain.
+#
+#   package-trial.sh WAY ZIP PROGRAM SOURCE_FOLDER
+#
+# WAY: stray (a file too many), outside (a file beside the folder), mark (no byte order mark),
+# feeds (lines that end with LF), program (another program)
+set -euo pipefail
+
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+readonly here way=$1 zip=$2 program=$3 source=$4
+
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+cd "$folder"
+cmake -E tar xf "$zip"
+
+top=(Velmora)
+case $way in
+  stray) touch Velmora/fixture.exe ;;
+  outside) touch Outside.txt && top+=(Outside.txt) ;;
+  mark) sed -i '1s/^\xef\xbb\xbf//' Velmora/Readme.txt ;;
+  feeds) sed -i 's/\r$//' Velmora/Readme.txt ;;
+  program) echo >>Velmora/Velmora.exe ;;
+  *) echo "no such way: $way" >&2; exit 2 ;;
+esac
+cmake -E tar cf spoilt.zip --format=zip -- "${top[@]}"
+"$here/package.sh" "$PWD/spoilt.zip" "$program" "$source"
