@@ -10,14 +10,14 @@ target_compile_definitions(velmora_flags INTERFACE
 target_compile_options(velmora_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
   -Wold-style-cast -Woverloaded-virtual -Wno-restrict
-  -finput-charset=UTF-8 -ffunction-sections -fdata-sections
+  -finput-charset=UTF-8 -ffunction-sections -fdata-sections -fstack-protector-strong
   $<$<CONFIG:Debug>:-fsanitize=undefined> $<$<CONFIG:Debug>:-fsanitize-undefined-trap-on-error>
   $<$<BOOL:${VELMORA_WERROR}>:-Werror>)
 
 # One file to hand out: the runtime is linked in. Address randomisation and no-execute are on.
 # Window programs start at wWinMain, console programs (the tests) at main.
 target_link_options(velmora_flags INTERFACE
-  -static
+  -static -fstack-protector-strong
   $<$<BOOL:$<TARGET_PROPERTY:WIN32_EXECUTABLE>>:-municode>
   -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat
   $<$<CONFIG:Release>:-s>)
