@@ -2,17 +2,15 @@
 
 #include <windows.h>
 
-#include <objbase.h>
-
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <functional>
 #include <limits>
 #include <stdexcept>
 #include <string>
 
 #include "BareObject.h"
+#include "Turns.h"
 #include "accessibility/AccessibleListing.h"
 #include "accessibility/AccessibleReport.h"
 #include "accessibility/MyAccessible.h"
@@ -22,40 +20,9 @@
 namespace bench {
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
 constexpr int kRounds = 31;
 constexpr int kListingRounds = 9;
 constexpr LONG kNoLimit = std::numeric_limits<LONG>::max();
-
-class Apartment {
- public:
-  Apartment() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
-  ~Apartment() { CoUninitialize(); }
-  Apartment(const Apartment&) = delete;
-  Apartment& operator=(const Apartment&) = delete;
-};
-
-double Milliseconds(const std::function<void()>& work) {
-  const auto start = Clock::now();
-  work();
-  return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
-}
-
-// In turns, so that whatever else the machine does falls on both.
-std::vector<Pair> Compare(int rounds, const std::function<void()>& ours,
-                          const std::function<void()>& bare) {
-  ours();
-  bare();
-  std::vector<Pair> pairs;
-  for (int i = 0; i < rounds; ++i) pairs.push_back({Milliseconds(ours), Milliseconds(bare)});
-  return pairs;
-}
-
-void PumpMessages() {
-  MSG message;
-  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-}
 
 platform::ReadSession Session(HWND& target) {
   return {target, [](const std::wstring&) {}, PumpMessages, [] { return true; }};
@@ -213,11 +180,14 @@ std::vector<Pair> MeasureTextAtPoint() {
   const Apartment apartment;
   const accessible::FixtureProcess fixture("fruit");
   const POINT point = InTheMiddle(fixture);
+  MyInternetexplore::BoundedMessages messages(MyInternetexplore::SystemBrowserCalls());
+  const MyInternetexplore::BrowserAccess browser{MyInternetexplore::SystemBrowserCalls(), messages};
   return Compare(
       kRounds,
-      [point] {
+      [&] {
         std::wstring method;
-        Expect(extract::MyGetControlTextFromPoint(point.x, point.y, {}, false, method));
+        Expect(extract::MyGetControlTextFromPoint(point.x, point.y, {}, false, method, browser,
+                                                  [](const std::wstring&) {}));
       },
       [point] {
         wchar_t className[128];

@@ -15,6 +15,7 @@
 #include "AccessibleReaders.h"
 #include "Latency.h"
 #include "ListReaders.h"
+#include "PageReaders.h"
 #include "ProgramCost.h"
 #include "ReportCost.h"
 #include "Statistics.h"
@@ -56,6 +57,7 @@ int main(int count, char** words) {
       {"accessible children, 500 objects", 1.15, [] { return bench::MeasureChildListing(500); }},
       {"tree, 1000 items", 1.15, [] { return bench::MeasureTreeListing(1000); }},
       {"tree, growth to 5000 items", 1.05, [] { return bench::MeasureTreeGrowth(500); }},
+      {"element chain of 100 elements", 1.15, [] { return bench::MeasureElementChain(100); }},
       {"information block, 5000 children", 1.15, bench::MeasureInformation},
       {"information block, growth to 5000 children", 1.15, bench::MeasureInformationGrowth},
       {"delivery with file, growth to 20 MB", 1.15, bench::MeasureDeliveryGrowth},

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "ListFixture.h"
+#include "Turns.h"
 #include "driver/Owners.h"
 #include "extract/ListBoxItems.h"
 #include "extract/ListViewItems.h"
@@ -26,12 +27,6 @@ using Clock = std::chrono::steady_clock;
 using gui::OwnedHandle;
 
 constexpr int kChunk = 100;
-
-// Both sides yield as the program does: by a look at the message queue.
-void PumpMessages() {
-  MSG message;
-  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-}
 
 int Ask(HWND control, UINT message, int wParam = 0, const void* lParam = nullptr) {
   return static_cast<int>(SendMessageW(control, message, static_cast<WPARAM>(wParam),
