@@ -1,0 +1,107 @@
+// A list that takes minutes to read: the pointer may leave it at any time.
+#include <windows.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <string>
+
+#include "ListFixture.h"
+#include "driver/GuiTest.h"
+#include "driver/Pointer.h"
+#include "driver/Program.h"
+#include "driver/Target.h"
+#include "ui/ControlIds.h"
+
+namespace gui {
+namespace {
+
+using testing::EndsWith;
+
+constexpr int kRows = 100'000;
+const std::string kOfAll = "/" + std::to_string(kRows);
+
+class HugeListTest : public GuiTest {
+ protected:
+  HugeListTest() {
+    SetWindowPos(GetAncestor(list_.Handle(), GA_ROOT), HWND_TOPMOST, 20, 20, 420, 320,
+                 SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    SetWindowPos(list_.Handle(), HWND_TOP, 0, 0, 400, 280, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+  }
+
+  // Returns once rows are arriving.
+  void BeginReading(const Program& program) const {
+    Require(WaitFor("the list stands under that point", [&](std::string&) {
+      return WindowFromPoint(list_.Center()) == list_.Handle();
+    }));
+    pointer::MoveTo(list_.Center());
+    Require(WaitFor("the list is being read", [&](std::string& seen) {
+      seen = program[ui::txtCount].Text();
+      return seen.ends_with(kOfAll);
+    }));
+  }
+
+  const cross::ListFixture fixture_{cross::Bits::k32,
+                                    "deadline=90 ownerdata=many:" + std::to_string(kRows)};
+  const Control list_{fixture_["ownerdata"], "the list"};
+};
+
+TEST_F(HugeListTest, GivesWayToTheNextReportAtOnce) {
+  const Fixture other("static=次 place=600,400,200,200");
+  const Program program;
+  program.MoveWindowTo(820, 20, 420, 460);
+  program.StartCapture();
+  BeginReading(program);
+  const Control next = other["static"];
+  const auto start = std::chrono::steady_clock::now();
+  pointer::MoveTo(next.Center());
+  EXPECT_TRUE(program[ui::txthWnd].TextBecomes(next.HandleText()));
+  EXPECT_TRUE(program.TopPane().TextBecomes("次"));
+  EXPECT_LT(std::chrono::steady_clock::now() - start, Milliseconds(3000));
+}
+
+TEST_F(HugeListTest, KeepsTheRowsThatWereReadAndMarksTheEnd) {
+  const Program program;
+  program.MoveWindowTo(820, 20, 420, 460);
+  program.StartCapture();
+  BeginReading(program);
+  // On and on, so that no other report takes the text away.
+  LONG step = 0;
+  std::string text;
+  EXPECT_TRUE(WaitFor("the text ends with the mark", [&](std::string& seen) {
+    step = (step + 1) % 40;
+    pointer::MoveTo({600 + step, 700});
+    seen = text = program.BottomPane().Text();
+    return seen.ends_with("\r\n・・・中断・・・");
+  }));
+  const std::string count = program[ui::txtCount].Text();
+  ASSERT_THAT(count, EndsWith(kOfAll));
+  EXPECT_EQ(std::to_string(std::count(text.begin(), text.end(), '\n')),
+            count.substr(0, count.size() - kOfAll.size()));
+}
+
+TEST_F(HugeListTest, LeavesPositionButtonsAndStopKeyAlive) {
+  const Program program({.conf = "hotkey = ESC\n"});
+  program.MoveWindowTo(820, 20, 420, 460);
+  program.StartCapture();
+  BeginReading(program);
+  const std::string count = program[ui::txtCount].Text();
+  const POINT at = list_.Center();
+  pointer::MoveTo({at.x + 3, at.y + 5});
+  EXPECT_TRUE(program[ui::lblMousePos].TextBecomes(" " + std::to_string(at.x + 3) + "-" +
+                                                   std::to_string(at.y + 5)));
+  EXPECT_TRUE(WaitFor("the reading goes on", [&](std::string& seen) {
+    seen = program[ui::txtCount].Text();
+    return seen != count && seen.ends_with(kOfAll);
+  }));
+  program[ui::chkDetail].PressButton();
+  EXPECT_TRUE(WaitFor("the box is checked",
+                      [&](std::string&) { return program[ui::chkDetail].IsChecked(); }));
+  program[ui::cmdGo].PressButton();
+  EXPECT_TRUE(program[ui::cmdGo].TextBecomes("開始"));
+}
+
+}  // namespace
+}  // namespace gui
