@@ -1,5 +1,7 @@
 #include "AccessibleNode.h"
 
+#include <climits>
+
 namespace accessible {
 namespace {
 
@@ -221,9 +223,13 @@ HRESULT Node::accNavigate(long direction, VARIANT start, VARIANT* end) {
   if (const HRESULT failure = Enter("accNavigate", start); failure != S_OK) return failure;
   if (direction != NAVDIR_NEXT && direction != NAVDIR_PREVIOUS) return E_NOTIMPL;
   if (start.vt != VT_I4) return E_INVALIDARG;
-  const long step = direction == NAVDIR_NEXT ? 1 : -1;
-  if (start.lVal != CHILDID_SELF) return GiveChild(start.lVal + step, end);
-  return parent == nullptr ? S_FALSE : parent->GiveChild(parent->NumberOf(*this) + step, end);
+  // Any number may come, also one without a neighbour.
+  const auto beside = [direction](long number) {
+    const long last = direction == NAVDIR_NEXT ? LONG_MAX : LONG_MIN;
+    return number == last ? number : number + (direction == NAVDIR_NEXT ? 1 : -1);
+  };
+  if (start.lVal != CHILDID_SELF) return GiveChild(beside(start.lVal), end);
+  return parent == nullptr ? S_FALSE : parent->GiveChild(beside(parent->NumberOf(*this)), end);
 }
 
 HRESULT Node::accHitTest(long left, long top, VARIANT* child) {

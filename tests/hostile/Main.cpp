@@ -1,0 +1,14 @@
+#include <windows.h>
+
+#include <objbase.h>
+
+#include <gmock/gmock.h>
+
+#include "Cases.h"
+
+int main(int count, char** words) {
+  testing::InitGoogleMock(&count, words);
+  hostile::TellCaseOnCrash();
+  CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+  return RUN_ALL_TESTS();
+}
