@@ -3,6 +3,7 @@
 #include "accessibility/AccessibleListing.h"
 #include "accessibility/AccessibleReport.h"
 #include "accessibility/MyAccessible.h"
+#include "browser/InterfaceDescription.h"
 #include "browser/MyInternetexplore.h"
 #include "browser/OpenPage.h"
 #include "capture/ElementTable.h"
@@ -49,7 +50,11 @@ class SystemReaders : public ReportReaders {
  public:
   explicit SystemReaders(const settings::Settings& settings) : settings_(settings) {}
 
-  WindowFacts Facts(HWND hwnd) override { return ReadWindowFacts(hwnd); }
+  WindowFacts Facts(HWND hwnd) override {
+    WindowFacts facts = ReadWindowFacts(hwnd);
+    if (CategoryOf(facts.className) == Category::Ie) description_.Hold();
+    return facts;
+  }
   WindowInformation Information(const WindowFacts& window) override {
     return ReadWindowInformation(window);
   }
@@ -128,6 +133,7 @@ class SystemReaders : public ReportReaders {
   MyInternetexplore::BoundedMessages messages_{MyInternetexplore::SystemBrowserCalls()};
   const MyInternetexplore::BrowserAccess browser_{MyInternetexplore::SystemBrowserCalls(),
                                                   messages_};
+  MyInternetexplore::InterfaceDescription description_;
 };
 
 }  // namespace

@@ -21,6 +21,7 @@
 #include "Messages.h"
 #include "Picture.h"
 #include "Scenes.h"
+#include "browser/InterfaceDescription.h"
 #include "fixture/CommandLine.h"
 
 namespace {
@@ -210,6 +211,8 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int) {
   }
 
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+  MyInternetexplore::InterfaceDescription description;
+  description.Hold();
   SetTimer(ShowWindows(instance, asked), 1, asked.deadlineSeconds * 1000, nullptr);
   Say("ready");
 
