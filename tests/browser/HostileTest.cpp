@@ -150,10 +150,10 @@ TEST_F(HostileTest, ProgramsMayDieInAnyCall) {
 }
 
 TEST_F(HostileTest, FiveHundredReportsLeaveNothingBehind) {
-  const BrowserProcess fruit("place=40,40,400,300 fruit");
-  const BrowserProcess frames("place=460,40,400,300 scrolled");
-  const BrowserProcess junk("place=40,360,400,300 junk");
-  const BrowserProcess foreign("place=460,360,400,300 foreign");
+  const BrowserProcess fruit("deadline=600 place=40,40,400,300 fruit");
+  const BrowserProcess frames("deadline=600 place=460,40,400,300 scrolled");
+  const BrowserProcess junk("deadline=600 place=40,360,400,300 junk");
+  const BrowserProcess foreign("deadline=600 place=460,360,400,300 foreign");
   const BrowserProcess* const all[] = {&fruit, &frames, &junk, &foreign};
   constexpr POINT kPoints[] = {{60, 90}, {520, 80}, {60, 410}, {520, 370}};
   const auto report = [&](int i) {
