@@ -19,6 +19,7 @@ class FixtureProcess {
 
   HWND Window() const { return window_; }
   gui::Control Control() const { return {window_, "the accessible fixture"}; }
+  gui::ChildProcess& Process() { return process_; }
   bool IsRunning() const { return process_.IsRunning(); }
 
   // What was done to its objects so far: "ACTION@TICK;" each.

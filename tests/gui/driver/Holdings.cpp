@@ -3,34 +3,48 @@
 #include <psapi.h>
 #include <winternl.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <vector>
+
+#include "driver/Owners.h"
 
 namespace gui {
 namespace {
 
 // The counters for handles and objects that the system offers are 0 in Wine; its list of all
 // handles, and the table of GDI objects that every process has, are true.
-int CountHandles(DWORD processId) {
+void CountHandles(DWORD processId, Holdings& holdings) {
   struct Entry {
-    std::uint16_t process;
-    std::uint16_t rest[7];
+    std::uint32_t process;
+    std::uint8_t type;
+    std::uint8_t flags;
+    std::uint16_t handle;
+    std::uint32_t rest[2];
   };
   static_assert(sizeof(Entry) == 16);
   constexpr int kHandleInformation = 16;
+  // An event of our own tells by what number events go.
+  const OwnedHandle event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   std::vector<std::uint32_t> buffer(1U << 20);
   if (NtQuerySystemInformation(static_cast<SYSTEM_INFORMATION_CLASS>(kHandleInformation),
                                buffer.data(), static_cast<ULONG>(buffer.size() * 4),
                                nullptr) != 0) {
-    return -1;
+    holdings.handles = holdings.events = -1;
+    return;
   }
   const auto* entries = reinterpret_cast<const Entry*>(buffer.data() + 1);
-  int count = 0;
+  const DWORD self = GetCurrentProcessId();
+  const auto own = std::find_if(entries, entries + buffer[0], [&](const Entry& one) {
+    return one.process == self &&
+           one.handle == static_cast<std::uint16_t>(reinterpret_cast<UINT_PTR>(event.get()));
+  });
   for (std::uint32_t i = 0; i < buffer[0]; ++i) {
-    if (entries[i].process == static_cast<std::uint16_t>(processId)) ++count;
+    if (entries[i].process != processId) continue;
+    ++(entries[i].type == own->type ? holdings.events : holdings.handles);
   }
-  return count;
+  if (processId == self) --holdings.events;
 }
 
 bool ReadMemory(HANDLE process, std::uintptr_t address, void* bytes, std::size_t size) {
@@ -107,8 +121,8 @@ double UsedMegabytes(HANDLE process) {
 
 std::string Holdings::Text() const {
   char text[128] = {};
-  std::snprintf(text, sizeof text, "handles %d, GDI objects %d, windows %d, %.1f MB", handles,
-                gdiObjects, windows, megabytes);
+  std::snprintf(text, sizeof text, "handles %d, events %d, GDI objects %d, windows %d, %.1f MB",
+                handles, events, gdiObjects, windows, megabytes);
   return text;
 }
 
@@ -116,9 +130,22 @@ Holdings HoldingsOf(HANDLE process) {
   const DWORD id = GetProcessId(process);
   // First, since the first look at windows makes the system load what it draws with.
   const int windows = CountWindows(id);
-  return {CountHandles(id), CountGdiObjects(process), windows, UsedMegabytes(process)};
+  Holdings holdings;
+  CountHandles(id, holdings);
+  holdings.gdiObjects = CountGdiObjects(process);
+  holdings.windows = windows;
+  holdings.megabytes = UsedMegabytes(process);
+  return holdings;
 }
 
 Holdings OwnHoldings() { return HoldingsOf(GetCurrentProcess()); }
+
+bool IsWithin(const Holdings& before, const Holdings& now, const Allowance& allowance) {
+  return now.handles <= before.handles + allowance.handles &&
+         now.events <= before.events + allowance.events &&
+         now.gdiObjects <= before.gdiObjects + allowance.gdiObjects &&
+         now.windows <= before.windows + allowance.windows &&
+         now.megabytes <= before.megabytes + allowance.megabytes;
+}
 
 }  // namespace gui

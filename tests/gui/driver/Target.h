@@ -41,6 +41,7 @@ class WineProgram {
   WineProgram(std::string_view program, std::string_view arguments, std::string_view className);
 
   Control Window() const { return {window_, "the target's window"}; }
+  ChildProcess& Process() const { return *process_; }
   // The first visible window of that class inside. Waits for it.
   Control Inside(std::string_view className) const;
   // A width of 0 keeps the size, for windows that have one of their own.

@@ -1,0 +1,329 @@
+#include "Hands.h"
+
+#include <cstdio>
+#include <stdexcept>
+
+#include "driver/Keys.h"
+#include "driver/Paths.h"
+#include "driver/Pointer.h"
+#include "driver/Screen.h"
+#include "driver/WaitFor.h"
+#include "driver/Windows.h"
+#include "settings/MySub_HotKey.h"
+#include "ui/ControlIds.h"
+
+namespace soak {
+namespace {
+
+constexpr gui::Milliseconds kKeyHold{150};
+// Longer than the time after which a report is due.
+constexpr gui::Milliseconds kToBeSeen{60};
+constexpr gui::Milliseconds kPatience{15000};
+constexpr UINT kToAnswer = 20000;
+constexpr char kSettings[] = "frmSetting";
+constexpr char kHotKeys[] = "frmOption";
+
+POINT PointOf(const Action& action) { return {action.a, action.b}; }
+
+// Whether the window answered.
+bool Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+  DWORD_PTR answer = 0;
+  return SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kToAnswer, &answer) != 0;
+}
+
+HWND ControlOf(const gui::Control& window, int id) {
+  for (HWND control : gui::Descendants(window.Handle())) {
+    if (GetDlgCtrlID(control) == id) return control;
+  }
+  throw std::runtime_error("there is no control " + std::to_string(id));
+}
+
+void Press(const gui::Control& window, int id) {
+  gui::Control(ControlOf(window, id), "").PressButton();
+}
+
+// As if the entry had been clicked.
+void Choose(const gui::Control& dialog, int id, int entry) {
+  const HWND list = ControlOf(dialog, id);
+  Ask(list, CB_SETCURSEL, static_cast<WPARAM>(entry));
+  Ask(GetParent(list), WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
+}
+
+}  // namespace
+
+Hands::Hands(const gui::Program& program)
+    : program_(program),
+      keyCatcher_("deadline=86400 title=keys place=860,700,300,240 blank=既知") {}
+
+void Hands::Do(const Action& action) {
+  switch (action.what) {
+    case Do::kMove:
+      gui::pointer::MoveTo(PointOf(action));
+      gui::Last(kToBeSeen);
+      return;
+    case Do::kSweep:
+      return gui::pointer::MoveTo(PointOf(action));
+    case Do::kRest:
+      return gui::Last(gui::Milliseconds(action.a));
+    case Do::kOpen:
+    case Do::kClose:
+    case Do::kKill:
+    case Do::kHang:
+    case Do::kWake:
+      return DoWithTarget(action);
+    case Do::kGo:
+    case Do::kPress:
+    case Do::kClick:
+    case Do::kDoubleClick:
+    case Do::kDragSplitter:
+    case Do::kResize:
+      return DoInMainWindow(action);
+    case Do::kHotKey:
+    case Do::kFront:
+    case Do::kSelectAll:
+    case Do::kActionKey:
+      return DoWithKeys(action);
+    default:
+      return DoInDialog(action);
+  }
+}
+
+void Hands::DoWithTarget(const Action& action) {
+  std::unique_ptr<Target>& target = targets_[action.a];
+  switch (action.what) {
+    case Do::kOpen:
+      target = std::make_unique<Target>(TargetKinds()[static_cast<std::size_t>(action.b)],
+                                        PlaceOnDesktop(action.a));
+      break;
+    case Do::kClose:
+      if (!target->IsWell()) throw std::runtime_error(target->Name() + " is not well");
+      target->Close();
+      target.reset();
+      break;
+    case Do::kKill:
+      target->Kill();
+      target.reset();
+      break;
+    case Do::kHang:
+      target->Hang();
+      break;
+    default:
+      target->Wake();
+      break;
+  }
+}
+
+void Hands::DoInMainWindow(const Action& action) {
+  switch (action.what) {
+    case Do::kGo:
+      if (!program_.IsCapturing()) program_[ui::cmdGo].PressButton();
+      break;
+    case Do::kPress:
+      program_[action.a].PressButton();
+      break;
+    case Do::kClick:
+    case Do::kDoubleClick: {
+      // Behind a dialog or outside a small window there is nothing to click.
+      const gui::Control control = program_[action.a];
+      if (WindowFromPoint(control.Center()) != control.Handle()) break;
+      const bool twice = action.what == Do::kDoubleClick;
+      (twice ? gui::pointer::DoubleClick : gui::pointer::Click)(control.Center());
+      break;
+    }
+    case Do::kDragSplitter: {
+      const POINT from = program_[ui::imgSplitter].Center();
+      if (WindowFromPoint(from) != program_[ui::imgSplitter].Handle()) break;
+      gui::pointer::Drag(from, {from.x, from.y + action.a});
+      break;
+    }
+    default:
+      SetWindowPos(program_.Window().Handle(), nullptr, kMainWindow.left, kMainWindow.top, action.a,
+                   action.b, SWP_NOZORDER | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
+      break;
+  }
+}
+
+void Hands::DoWithKeys(const Action& action) {
+  const HWND receiver =
+      action.what == Do::kSelectAll ? program_.Window().Handle() : keyCatcher_["main"].Handle();
+  if (Ask(receiver, WM_NULL)) SetForegroundWindow(receiver);
+  switch (action.what) {
+    case Do::kHotKey: {
+      const std::int32_t code = MySub_HotKey::HotKeyCodes[static_cast<std::size_t>(action.a)];
+      const WORD key = LOWORD(code);
+      if (key == 0) break;
+      if ((code & MySub_HotKey::kShift) != 0) {
+        gui::keys::Stroke({VK_SHIFT, key}, kKeyHold);
+      } else {
+        gui::keys::Stroke({key}, kKeyHold);
+      }
+      break;
+    }
+    case Do::kFront:
+      gui::keys::Stroke({VK_MENU, 'T'}, kKeyHold);
+      break;
+    case Do::kSelectAll:
+      gui::keys::Stroke({VK_CONTROL, 'A'}, kKeyHold);
+      break;
+    default:
+      gui::keys::Stroke({VK_CONTROL}, kKeyHold);
+      break;
+  }
+}
+
+void Hands::DoInDialog(const Action& action) {
+  switch (action.what) {
+    case Do::kOpenSettings:
+      return OpenDialog(program_.Window(), ui::cmdSetting, kSettings);
+    case Do::kOpenHotKeys:
+      return OpenDialog(Dialog(kSettings), ui::cmdHotKey, kHotKeys);
+    case Do::kPressInSettings:
+      return Press(Dialog(kSettings), action.a);
+    case Do::kChooseInSettings:
+      return Choose(Dialog(kSettings), action.a, action.b);
+    case Do::kChooseHotKey:
+      return Choose(Dialog(kHotKeys), ui::cmbHotKey, action.a);
+    case Do::kTypeInSettings: {
+      const gui::Control dialog = Dialog(kSettings);
+      const HWND box = ControlOf(dialog, action.a);
+      gui::Control(box, "box").SetText(std::to_string(action.b));
+      Ask(dialog.Handle(), WM_COMMAND, MAKEWPARAM(action.a, EN_KILLFOCUS),
+          reinterpret_cast<LPARAM>(box));
+      break;
+    }
+    case Do::kCloseSettings:
+      return CloseDialog(kSettings, ui::cmdClose);
+    default:
+      return CloseDialog(kHotKeys, action.a);
+  }
+}
+
+std::optional<HWND> Hands::FindDialog(const char* className) const {
+  for (HWND window : gui::VisibleWindows(program_.Process().Id())) {
+    if (gui::Control(window, "").ClassName() == className) return window;
+  }
+  return std::nullopt;
+}
+
+gui::Control Hands::Dialog(const char* className) const {
+  const std::optional<HWND> found = FindDialog(className);
+  if (!found.has_value()) throw std::runtime_error(std::string(className) + " is not open");
+  return {*found, className};
+}
+
+void Hands::OpenDialog(const gui::Control& from, int button, const char* className) {
+  WaitUntil(
+      std::string(className) + " opens", [&] { Press(from, button); },
+      [&] { return FindDialog(className).has_value(); });
+}
+
+void Hands::CloseDialog(const char* className, int button) {
+  const gui::Control dialog = Dialog(className);
+  WaitUntil(
+      std::string(className) + " closes", [&] { Press(dialog, button); },
+      [&] { return !FindDialog(className).has_value(); });
+}
+
+// A message box in front of the window takes a press away, so it is pressed again.
+void Hands::WaitUntil(const std::string& what, const std::function<void()>& press,
+                      const std::function<bool()>& done) {
+  for (int tries = 0; tries < 4; ++tries) {
+    press();
+    const auto cameAbout = gui::WaitFor(
+        what,
+        [&](std::string&) {
+          CloseMessages();
+          return done();
+        },
+        kPatience);
+    if (cameAbout) return;
+  }
+  // While the windows still stand.
+  gui::SaveScreenshot(gui::TestName() + " waits");
+  throw std::runtime_error("not so: " + what);
+}
+
+int Hands::CloseMessages() const {
+  int closed = 0;
+  for (HWND window : gui::VisibleWindows(program_.Process().Id())) {
+    if (gui::Control(window, "").ClassName() != "#32770") continue;
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    ++closed;
+  }
+  return closed;
+}
+
+bool Hands::ProgramAnswers() const {
+  return program_.Process().IsRunning() && Ask(program_.Window().Handle(), WM_NULL);
+}
+
+std::string Hands::Unwell() const {
+  std::string names;
+  for (const std::unique_ptr<Target>& target : targets_) {
+    if (target != nullptr && !target->IsWell()) names += target->Name() + "; ";
+  }
+  return names;
+}
+
+void Hands::StopCapture() {
+  WaitUntil(
+      "the capture stops",
+      [&] {
+        if (program_.IsCapturing()) program_[ui::cmdGo].PressButton();
+      },
+      [&] { return !program_.IsCapturing(); });
+}
+
+// Those that would read elsewhere, or end the capture too soon.
+void Hands::UncheckAll() {
+  const auto uncheck = [this](const gui::Control& window, std::initializer_list<int> boxes) {
+    for (const int id : boxes) {
+      const gui::Control box(ControlOf(window, id), "box");
+      WaitUntil(
+          "control " + std::to_string(id) + " is not checked",
+          [&] {
+            if (box.IsChecked()) box.PressButton();
+          },
+          [&] { return !box.IsChecked(); });
+    }
+  };
+  uncheck(program_.Window(), {ui::chkDetail, ui::chkTurnBack, ui::chkAutoStop});
+  OpenDialog(program_.Window(), ui::cmdSetting, kSettings);
+  uncheck(Dialog(kSettings), {ui::chkShift, ui::chkContinue});
+  Press(Dialog(kSettings), ui::OptAct0);
+  CloseDialog(kSettings, ui::cmdClose);
+}
+
+void Hands::ReadKnownWindow() {
+  const gui::Control known = keyCatcher_["blank"];
+  char hexadecimal[16] = {};
+  std::snprintf(hexadecimal, sizeof hexadecimal, "%lX", std::stoul(known.HandleText()));
+  program_[ui::cmdGo].PressButton();
+  WaitUntil(
+      "the known window is read", [&] { gui::pointer::MoveTo(known.Center()); },
+      [&] {
+        const std::string handle = program_[ui::txthWnd].Text();
+        return (handle == known.HandleText() || handle == hexadecimal) &&
+               program_[ui::txtWin0].Text() == known.ClassName() &&
+               program_.TopPane().Text() == known.Text();
+      });
+}
+
+void Hands::Settle() {
+  gui::pointer::Park();
+  StopCapture();
+  UncheckAll();
+  Do({Do::kResize, kMainWindow.width, kMainWindow.height});
+  ReadKnownWindow();
+  gui::pointer::Park();
+  StopCapture();
+}
+
+void Hands::CloseAll() {
+  for (std::unique_ptr<Target>& target : targets_) {
+    if (target != nullptr) target->Close();
+    target.reset();
+  }
+}
+
+}  // namespace soak

@@ -1,0 +1,63 @@
+// Carries out the actions of a plan on the running program and its desktop.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "Plan.h"
+#include "Target.h"
+#include "driver/Program.h"
+#include "driver/Target.h"
+
+namespace soak {
+
+class Hands {
+ public:
+  explicit Hands(const gui::Program& program);
+
+  // Throws std::runtime_error when an action cannot be carried out that always can be: a program
+  // does not start, a dialog does not open or close.
+  void Do(const Action& action);
+
+  // Closes the program's message boxes; how many there were.
+  int CloseMessages() const;
+
+  // The program runs and answers.
+  bool ProgramAnswers() const;
+  // The programs that are open and not well, by name; empty: all are.
+  std::string Unwell() const;
+  void CloseAll();
+
+  // Brings the program to the state in which what it holds can be compared: no capture, windows
+  // and switches as at first, the last report over a small known window. Throws
+  // std::runtime_error when that report is not right.
+  void Settle();
+
+ private:
+  void DoWithTarget(const Action& action);
+  void DoInMainWindow(const Action& action);
+  void DoWithKeys(const Action& action);
+  void DoInDialog(const Action& action);
+
+  void StopCapture();
+  void UncheckAll();
+  void ReadKnownWindow();
+
+  std::optional<HWND> FindDialog(const char* className) const;
+  gui::Control Dialog(const char* className) const;
+  void OpenDialog(const gui::Control& from, int button, const char* className);
+  void CloseDialog(const char* className, int button);
+  void WaitUntil(const std::string& what, const std::function<void()>& press,
+                 const std::function<bool()>& done);
+
+  const gui::Program& program_;
+  // Has the focus while keys are pressed, so that they do nothing to the others.
+  gui::Fixture keyCatcher_;
+  std::unique_ptr<Target> targets_[kPlaces];
+};
+
+}  // namespace soak

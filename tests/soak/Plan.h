@@ -1,0 +1,140 @@
+// What a soak does: an endless sequence of actions that follows from its seed alone, so that a
+// failing run can be repeated. Nothing here looks at a clock, a window or an outcome.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "TargetKinds.h"
+
+namespace soak {
+
+enum class Do {
+  // The pointer, in screen pixels.
+  kMove,   // to a, b
+  kSweep,  // from where it is to a, b without a rest
+  kRest,   // for a milliseconds
+
+  // The programs on the desktop; a is their place on it.
+  kOpen,   // of kind b
+  kClose,  // politely
+  kKill,
+  kHang,  // until it is woken
+  kWake,
+
+  // The main window; a is the number of a control.
+  kGo,  // starts a capture unless one runs
+  kPress,
+  kClick,
+  kDoubleClick,
+  kDragSplitter,  // by a pixels
+  kResize,        // to a by b pixels
+
+  // Keys.
+  kHotKey,     // entry a of the hot-key list
+  kFront,      // Alt+T
+  kSelectAll,  // Ctrl+A in the main window
+  kActionKey,  // Ctrl
+
+  // The dialogs; a is the number of a control, b the entry of a list or the number to type.
+  kOpenSettings,
+  kPressInSettings,
+  kChooseInSettings,
+  kTypeInSettings,
+  kCloseSettings,
+  kOpenHotKeys,
+  kChooseHotKey,
+  kCloseHotKeys,  // with button a
+};
+
+struct Action {
+  Do what = Do::kRest;
+  int a = 0;
+  int b = 0;
+
+  bool operator==(const Action&) const = default;
+};
+
+// "open listview-dies at place 3", for the report of a failure.
+std::string ToText(const Action& action);
+
+// The places of programs on the desktop, left of the main window.
+inline constexpr int kPlaces = 6;
+struct Place {
+  int left, top, width, height;
+};
+Place PlaceOnDesktop(int index);
+
+// Where the main window begins and how large it is at first.
+inline constexpr Place kMainWindow{860, 20, 400, 560};
+
+class Plan {
+ public:
+  explicit Plan(std::uint32_t seed) : random_(seed) {}
+
+  // A settings file with random values; only with mayEndItself can the program close by itself.
+  std::string Settings(bool mayEndItself);
+
+  // Each kind of program and each kind of action at least once, then everything closed.
+  std::vector<Action> Tour();
+
+  // One program opened and pointed at, for a short life of the program under test.
+  std::vector<Action> Glance();
+
+  // The next random action. Each fits the ones before: a dialog's control is used while the dialog
+  // is open, a program is closed that was opened.
+  Action Next();
+
+  // The actions that bring the desktop to rest: dialogs closed, programs woken. Those that are
+  // still open stay.
+  std::vector<Action> Rest();
+
+ private:
+  struct Slot {
+    std::optional<std::size_t> kind;
+    bool hung = false;
+  };
+  enum class Dialog { kNone, kSettings, kHotKeys };
+  using Maker = std::optional<Action> (Plan::*)();
+  struct Weighted {
+    int weight;
+    Maker maker;
+  };
+
+  int Below(int limit);
+  bool Chance(int percent) { return Below(100) < percent; }
+  template <typename Container>
+  auto OneOf(const Container& values) {
+    return values[static_cast<std::size_t>(Below(static_cast<int>(std::size(values))))];
+  }
+  int AnyPlace(bool open);
+
+  std::optional<Action> Move();
+  std::optional<Action> MoveAnywhere();
+  std::optional<Action> RestAWhile();
+  std::optional<Action> Open();
+  std::optional<Action> Close();
+  std::optional<Action> Kill();
+  std::optional<Action> Hang();
+  std::optional<Action> Wake();
+  std::optional<Action> UseMainWindow();
+  std::optional<Action> ChangeMainWindow();
+  std::optional<Action> Key();
+  std::optional<Action> Dialogs();
+  std::optional<Action> UseSettings();
+
+  // Keeps in mind what an action leaves behind.
+  Action Noted(const Action& action);
+
+  std::mt19937 random_;
+  Slot slots_[kPlaces];
+  Dialog dialog_ = Dialog::kNone;
+  int hotKey_ = 2;        // ESC
+  int chosenHotKey_ = 2;  // in the open dialog
+};
+
+}  // namespace soak

@@ -1,0 +1,46 @@
+#include "TargetKinds.h"
+
+namespace soak {
+namespace {
+
+// Not among them: winefile, which in Wine numbers windows of other programs anew when it ends.
+constexpr TargetKind kKinds[] = {
+    {"notepad", Source::kSystem, "notepad.exe", false},
+    {"regedit", Source::kSystem, "regedit.exe", false},
+    {"winecfg", Source::kSystem, "winecfg.exe", false},
+    {"taskmgr", Source::kSystem, "taskmgr.exe", false},
+    {"winver", Source::kSystem, "winver.exe", false},
+    {"uninstaller", Source::kSystem, "uninstaller.exe", false},
+    {"controls", Source::kFixture,
+     "title=題名 edit=文字列 button=押す static=名札 memo=一行目\\n二行目 disabled=無効 leaf=葉",
+     false},
+    {"tool tip", Source::kFixture, "title=tip blank= tip=ヒントの文", false},
+    {"list box", Source::kLists, "listbox=many:300", false},
+    {"list box, slow", Source::kLists, "behave=slow listbox=many:20", false},
+    {"list box, hangs", Source::kLists, "behave=hang listbox=many:5", false},
+    {"list box, understates", Source::kLists, "behave=understate listbox=long", false},
+    {"combo box, vanishes", Source::kLists, "behave=vanish simplecombo=many:9", false},
+    {"combo box, dies", Source::kLists, "behave=die dropdown=many:9", true},
+    {"list view", Source::kLists, "listview=odd", false},
+    {"list view, owner data", Source::kLists, "ownerdata=many:200", false},
+    {"list view, dies", Source::kLists, "behave=die listview=many:9", true},
+    {"list view, huge", Source::kLists, "behave=huge listview=many:9", false},
+    {"toolbar, negative", Source::kLists, "behave=negative toolbar=many:9", false},
+    {"tabs, change", Source::kLists, "behave=change tabs=japanese", false},
+    {"fruit", Source::kAccessible, "fruit", false},
+    {"tree", Source::kAccessible, "tree=60", false},
+    {"objects", Source::kAccessible, "objects=40", false},
+    {"cycle", Source::kAccessible, "cycle", false},
+    {"endless", Source::kAccessible, "endless", false},
+    {"claims", Source::kAccessible, "claims", false},
+    {"huge name", Source::kAccessible, "huge", false},
+    {"codes", Source::kAccessible, "codes", false},
+    {"overflow", Source::kAccessible, "overflow", false},
+    {"dies", Source::kAccessible, "dies", true},
+};
+
+}  // namespace
+
+std::span<const TargetKind> TargetKinds() { return kKinds; }
+
+}  // namespace soak

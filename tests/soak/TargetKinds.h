@@ -1,0 +1,20 @@
+// The programs that a soak puts on its desktop.
+#pragma once
+
+#include <cstddef>
+#include <span>
+
+namespace soak {
+
+enum class Source { kSystem, kFixture, kLists, kAccessible };
+
+struct TargetKind {
+  const char* name;  // for reports
+  Source source;
+  const char* words;  // the program's file name, or the words of the fixture
+  bool mayDie;        // ends by itself when it is read
+};
+
+std::span<const TargetKind> TargetKinds();
+
+}  // namespace soak
