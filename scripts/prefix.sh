@@ -26,6 +26,10 @@ rm -rf "$WINEPREFIX"
 mkdir -p "$WINEPREFIX"
 wine wineboot --init </dev/null >/dev/null 2>&1
 
+# Wine makes the user's folders links into the home of whoever runs the tests. What a test saves on
+# the desktop belongs to the prefix.
+find "$WINEPREFIX/drive_c/users" -type l -exec rm {} \; -exec mkdir {} \;
+
 # Wine does not look for its own fonts where Debian puts them: Marlett draws the buttons of captions,
 # Tahoma is the dialogs' font.
 ln -s /usr/share/wine/fonts/{marlett,tahoma,tahomabd}.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
