@@ -15,6 +15,9 @@ void Dispatch(MSG& message) {
   const std::vector<HWND>& dialogs = Dialogs();
   for (const HWND dialog : dialogs) {
     if (message.hwnd != dialog && !IsChild(dialog, message.hwnd)) continue;
+    // Another program may press a button on a page that is not shown and so give it the focus. From
+    // there the search for an access key need not end: it goes round among what is shown.
+    if (!IsWindowVisible(message.hwnd)) break;
     if (IsDialogMessageW(dialog, &message)) return;
     break;
   }
