@@ -253,8 +253,14 @@ int Hands::CloseMessages() const {
   return closed;
 }
 
-bool Hands::ProgramAnswers() const {
-  return program_.Process().IsRunning() && Ask(program_.Window().Handle(), WM_NULL);
+void Hands::RequireProgram() const {
+  if (Ask(program_.Window().Handle(), WM_NULL)) return;
+  // While the windows still stand.
+  gui::SaveScreenshot(gui::TestName() + " lost");
+  const std::optional<DWORD> code = program_.Process().WaitForExit(gui::Milliseconds(1000));
+  throw std::runtime_error(code.has_value()
+                               ? "the program has ended with code " + std::to_string(*code)
+                               : "the program does not answer");
 }
 
 std::string Hands::Unwell() const {

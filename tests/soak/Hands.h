@@ -26,8 +26,8 @@ class Hands {
   // Closes the program's message boxes; how many there were.
   int CloseMessages() const;
 
-  // The program runs and answers.
-  bool ProgramAnswers() const;
+  // Throws std::runtime_error unless the program runs and answers.
+  void RequireProgram() const;
   // The programs that are open and not well, by name; empty: all are.
   std::string Unwell() const;
   void CloseAll();

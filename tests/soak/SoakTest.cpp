@@ -63,7 +63,7 @@ class SoakTest : public gui::GuiTest {
     }
     hands.Do(action);
     messages_ += hands.CloseMessages();
-    if (!hands.ProgramAnswers()) throw std::runtime_error("the program does not answer");
+    hands.RequireProgram();
   }
 
   // A life with settings of its own, ended politely, now and then in the middle of a capture.
