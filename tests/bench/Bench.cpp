@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "AccessibleReaders.h"
+#include "ComposerCost.h"
 #include "Latency.h"
 #include "ListReaders.h"
 #include "PageReaders.h"
@@ -58,6 +59,7 @@ int main(int count, char** words) {
       {"tree, 1000 items", 1.15, [] { return bench::MeasureTreeListing(1000); }},
       {"tree, growth to 5000 items", 1.05, [] { return bench::MeasureTreeGrowth(500); }},
       {"element chain of 100 elements", 1.15, [] { return bench::MeasureElementChain(100); }},
+      {"report on an object", 1.15, bench::MeasureReport},
       {"information block, 5000 children", 1.15, bench::MeasureInformation},
       {"information block, growth to 5000 children", 1.15, bench::MeasureInformationGrowth},
       {"delivery with file, growth to 20 MB", 1.15, bench::MeasureDeliveryGrowth},

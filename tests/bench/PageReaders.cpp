@@ -13,6 +13,7 @@
 
 #include "Turns.h"
 #include "browser/BrowserProcess.h"
+#include "browser/InterfaceDescription.h"
 #include "browser/OpenPage.h"
 #include "capture/ElementTable.h"
 #include "driver/Pointer.h"
@@ -142,6 +143,9 @@ int CallsOf(const html::BrowserProcess& process, const std::function<void()>& wo
 
 std::vector<Pair> MeasureElementChain(int elements) {
   const Apartment apartment;
+  // For both sides: without it, loading it would be what is measured.
+  MyInternetexplore::InterfaceDescription description;
+  description.Hold();
   const html::BrowserProcess process("deadline=900 chain=" + std::to_string(elements));
   const HWND window = process.Window();
   const POINT point = process["document"].Center();

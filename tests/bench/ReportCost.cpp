@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "BareWindows.h"
 #include "Yardstick.h"
 #include "capture/OutputDelivery.h"
 #include "capture/WindowInformation.h"
@@ -60,25 +61,8 @@ double InformationTime(HWND root) {
   });
 }
 
-void AskBare(HWND hwnd) {
-  wchar_t className[128];
-  static wchar_t title[9192];
-  RECT place{};
-  GetClassNameW(hwnd, className, 128);
-  GetWindowTextW(hwnd, title, 9192);
-  GetWindowRect(hwnd, &place);
-}
-
-BOOL CALLBACK AskBareIfVisible(HWND hwnd, LPARAM) {
-  if (IsWindowVisible(hwnd)) AskBare(hwnd);
-  return TRUE;
-}
-
 double BareTime(HWND root) {
-  return Milliseconds([root] {
-    AskBare(root);
-    EnumChildWindows(root, AskBareIfVisible, 0);
-  });
+  return Milliseconds([root] { AskInformation(root); });
 }
 
 // Takes texts and shows nothing.
