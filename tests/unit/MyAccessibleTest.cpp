@@ -171,5 +171,44 @@ TEST(MyAccessibleTest, ParentsAndHeldObjectsAreCountedOnce) {
   EXPECT_EQ(ObjectIn(Number(1)), nullptr);
 }
 
+// Gives away a node for its client area, and notes what it was asked for.
+struct AskedWindow {
+  static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wParam,
+                                    LPARAM lParam) noexcept {
+    if (message != WM_GETOBJECT) return DefWindowProcW(hwnd, message, wParam, lParam);
+    asked.push_back(static_cast<LONG>(lParam));
+    return LresultFromObject(IID_IAccessible, wParam, static_cast<IAccessible*>(node));
+  }
+  static inline Node* node = nullptr;
+  static inline std::vector<LONG> asked;
+};
+
+TEST(MyAccessibleTest, OfAWindowItIsTheObjectOfItsClientArea) {
+  constexpr GUID kAccessible = {
+      0x618736E0, 0x3C3D, 0x11CF, {0x81, 0x0C, 0x00, 0xAA, 0x00, 0x38, 0x9B, 0x71}};
+  EXPECT_EQ(IID_IAccessible, kAccessible);
+
+  WNDCLASSW windowClass{};
+  windowClass.lpfnWndProc = AskedWindow::Procedure;
+  windowClass.hInstance = GetModuleHandleW(nullptr);
+  windowClass.lpszClassName = L"MyAccessibleTest";
+  ASSERT_NE(RegisterClassW(&windowClass), 0);
+  Node node = Button();
+  AskedWindow::node = &node;
+  AskedWindow::asked.clear();
+  CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+  const HWND window = CreateWindowExW(0, windowClass.lpszClassName, L"", WS_POPUP, 0, 0, 10, 10,
+                                      nullptr, nullptr, windowClass.hInstance, nullptr);
+  {
+    const AccessiblePtr object = GetAccessibleObj(window);
+    ASSERT_NE(object, nullptr);
+    EXPECT_EQ(AccName(object.Get(), Self()), L"押す");
+  }
+  EXPECT_THAT(AskedWindow::asked, ElementsAre(-4));
+  DestroyWindow(window);
+  CoUninitialize();
+  UnregisterClassW(windowClass.lpszClassName, windowClass.hInstance);
+}
+
 }  // namespace
 }  // namespace MyAccessible

@@ -93,6 +93,7 @@ class FakeReaders : public ReportReaders {
   std::function<void(const CategoryRead&)> onRead;
   std::string failing;  // the reader that throws
   POINT askedPoint{};
+  HWND listOf = WindowNumber(77);
   HWND accessibleOf = WindowNumber(-1);
   HWND targetSeen = nullptr;
   HWND statusOf = nullptr;
@@ -120,7 +121,7 @@ class FakeReaders : public ReportReaders {
     if (what == failing) throw std::runtime_error("the reader fails");
   }
   std::wstring Read(const std::string& what, const CategoryRead& read) {
-    EXPECT_EQ(read.hwnd, WindowNumber(77));
+    EXPECT_EQ(read.hwnd, listOf);
     if (onRead) onRead(read);
     Note(what);
     return L"一覧";
@@ -248,6 +249,14 @@ TEST_F(ReportComposerTest, TakesTheTextFromTheHandleWhenAsked) {
   EXPECT_EQ(readers_.accessibleOf, WindowNumber(77));
   EXPECT_THAT(fake_.trace, Not(Contains("point")));
   EXPECT_EQ(Text(ViewText::lblTextKind), L"");
+}
+
+TEST_F(ReportComposerTest, WithoutAWindowTheObjectIsThatAtThePoint) {
+  fake_.settings.fromHwnd = 1;
+  fake_.state.TargetWindow = nullptr;
+  readers_.listOf = nullptr;
+  Compose();
+  EXPECT_EQ(readers_.accessibleOf, nullptr);
 }
 
 TEST_F(ReportComposerTest, ElseFromThePoint) {
