@@ -20,15 +20,16 @@ constexpr gui::Milliseconds kKeyHold{150};
 constexpr gui::Milliseconds kToBeSeen{60};
 constexpr gui::Milliseconds kPatience{15000};
 constexpr UINT kToAnswer = 20000;
+constexpr UINT kToAnswerOverAHungProgram = 3000;
 constexpr char kSettings[] = "frmSetting";
 constexpr char kHotKeys[] = "frmOption";
 
 POINT PointOf(const Action& action) { return {action.a, action.b}; }
 
 // Whether the window answered.
-bool Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+bool Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0, UINT time = kToAnswer) {
   DWORD_PTR answer = 0;
-  return SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kToAnswer, &answer) != 0;
+  return SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, time, &answer) != 0;
 }
 
 HWND ControlOf(const gui::Control& window, int id) {
@@ -253,8 +254,11 @@ int Hands::CloseMessages() const {
   return closed;
 }
 
-void Hands::RequireProgram() const {
-  if (Ask(program_.Window().Handle(), WM_NULL)) return;
+void Hands::RequireProgram() {
+  const HWND window = program_.Window().Handle();
+  if (Ask(window, WM_NULL, 0, 0, kToAnswerOverAHungProgram)) return;
+  WakeAll();
+  if (Ask(window, WM_NULL)) return;
   // While the windows still stand.
   gui::SaveScreenshot(gui::TestName() + " lost");
   const std::optional<DWORD> code = program_.Process().WaitForExit(gui::Milliseconds(1000));
@@ -269,6 +273,12 @@ std::string Hands::Unwell() const {
     if (target != nullptr && !target->IsWell()) names += target->Name() + "; ";
   }
   return names;
+}
+
+void Hands::WakeAll() {
+  for (const std::unique_ptr<Target>& target : targets_) {
+    if (target != nullptr) target->Wake();
+  }
 }
 
 void Hands::StopCapture() {

@@ -26,8 +26,9 @@ class Hands {
   // Closes the program's message boxes; how many there were.
   int CloseMessages() const;
 
-  // Throws std::runtime_error unless the program runs and answers.
-  void RequireProgram() const;
+  // Throws std::runtime_error unless the program runs and answers. It may be in a call into a
+  // program that hangs, which comes back only when that wakes: then all are woken.
+  void RequireProgram();
   // The programs that are open and not well, by name; empty: all are.
   std::string Unwell() const;
   void CloseAll();
@@ -43,6 +44,7 @@ class Hands {
   void DoWithKeys(const Action& action);
   void DoInDialog(const Action& action);
 
+  void WakeAll();
   void StopCapture();
   void UncheckAll();
   void ReadKnownWindow();
