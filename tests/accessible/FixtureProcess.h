@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "driver/ChildProcess.h"
 #include "driver/Control.h"
+#include "driver/FixtureProcess.h"
 
 namespace accessible {
 
@@ -17,17 +17,16 @@ class FixtureProcess {
   // std::runtime_error when that does not come about.
   explicit FixtureProcess(std::string_view words);
 
-  HWND Window() const { return window_; }
-  gui::Control Control() const { return {window_, "the accessible fixture"}; }
-  gui::ChildProcess& Process() { return process_; }
+  HWND Window() const { return process_["main"]; }
+  gui::Control Control() const { return {Window(), "the accessible fixture"}; }
+  gui::ChildProcess& Process() { return process_.Process(); }
   bool IsRunning() const { return process_.IsRunning(); }
 
   // What was done to its objects so far: "ACTION@TICK;" each.
   std::string Actions() const;
 
  private:
-  gui::ChildProcess process_;
-  HWND window_ = nullptr;
+  gui::FixtureProcess process_;
 };
 
 }  // namespace accessible

@@ -3,12 +3,11 @@
 
 #include <windows.h>
 
-#include <map>
 #include <string>
 #include <string_view>
 
-#include "driver/ChildProcess.h"
 #include "driver/Control.h"
+#include "driver/FixtureProcess.h"
 
 namespace html {
 
@@ -20,9 +19,9 @@ class BrowserProcess {
 
   // "main", "document", "combo" or "list". Throws std::out_of_range.
   gui::Control operator[](const std::string& name) const;
-  HWND Window() const { return windows_.at("document"); }
+  HWND Window() const { return process_["document"]; }
   bool IsRunning() const { return process_.IsRunning(); }
-  const gui::ChildProcess& Process() const { return process_; }
+  const gui::ChildProcess& Process() const { return process_.Process(); }
 
   // What others hold of the page's objects; how many members were called; how often the document
   // was asked for. -1 when the fixture does not answer.
@@ -33,8 +32,7 @@ class BrowserProcess {
  private:
   int Ask(UINT message) const;
 
-  gui::ChildProcess process_;
-  std::map<std::string, HWND> windows_;
+  gui::FixtureProcess process_;
 };
 
 }  // namespace html

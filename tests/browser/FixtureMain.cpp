@@ -1,21 +1,20 @@
 // A target for tests: a browser's window whose document is a page of our own.
 //
-//   browser_fixture.exe [deadline=SECONDS] [title=CAPTION] [place=X,Y,WIDTH,HEIGHT]
-//   SCENE[=VALUE]
+//   browser_fixture.exe [parent=PID] [deadline=SECONDS] [title=CAPTION]
+//                       [place=X,Y,WIDTH,HEIGHT] SCENE[=VALUE]
 //
 // The scenes stand in Scenes.h, the other words in the fixture's CommandLine.h. The document's
 // window fills a top-level window without a frame. Once the windows stand, one line "name=handle"
 // (decimal) for "main", "document" and, where the scene has them, "combo" and "list" goes to the
-// standard output, then the line "ready". The program ends when its window is closed and at its
-// deadline. Exit codes: 0, 2 unknown scene.
+// standard output, then the line "ready". The program ends when its window is closed, when
+// its parent ends and at its deadline. Exit codes: 0 closed, 2 unknown scene, 3 parent gone or
+// deadline passed.
 #include <windows.h>
 
 #include <objbase.h>
 #include <oleacc.h>
-#include <shellapi.h>
 
 #include <algorithm>
-#include <memory>
 #include <string>
 
 #include "Messages.h"
@@ -23,6 +22,7 @@
 #include "Scenes.h"
 #include "browser/InterfaceDescription.h"
 #include "fixture/CommandLine.h"
+#include "fixture/FixtureProgram.h"
 
 namespace {
 
@@ -136,9 +136,6 @@ LRESULT CALLBACK DocumentProcedure(HWND window, UINT message, WPARAM wParam, LPA
 
 LRESULT CALLBACK MainProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case WM_TIMER:
-      DestroyWindow(window);
-      return 0;
     case WM_DESTROY:
       PostQuitMessage(0);
       return 0;
@@ -147,64 +144,39 @@ LRESULT CALLBACK MainProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
   }
 }
 
-void Register(HINSTANCE instance, const wchar_t* name, WNDPROC procedure) {
-  WNDCLASSEXW windowClass = {};
-  windowClass.cbSize = sizeof windowClass;
-  windowClass.lpfnWndProc = procedure;
-  windowClass.hInstance = instance;
-  windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  windowClass.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
-  windowClass.lpszClassName = name;
-  RegisterClassExW(&windowClass);
-}
-
-void Say(const std::string& line) {
-  const std::string text = line + "\n";
-  DWORD written = 0;
-  WriteFile(GetStdHandle(STD_OUTPUT_HANDLE), text.data(), static_cast<DWORD>(text.size()), &written,
-            nullptr);
-}
-
-HWND Show(const char* name, const wchar_t* className, const wchar_t* text, HWND parent,
+HWND Show(const wchar_t* name, const wchar_t* className, const wchar_t* text, HWND parent,
           const RECT& place) {
   const DWORD style = (parent == nullptr ? WS_POPUP : WS_CHILD) | WS_VISIBLE | WS_CLIPCHILDREN;
   HWND window = CreateWindowExW(parent == nullptr ? WS_EX_TOPMOST | WS_EX_NOACTIVATE : 0, className,
                                 text, style, place.left, place.top, place.right, place.bottom,
                                 parent, nullptr, GetModuleHandleW(nullptr), nullptr);
-  Say(name + ("=" + std::to_string(reinterpret_cast<UINT_PTR>(window))));
+  fixture::Say(name, window);
   return window;
 }
 
-HWND ShowWindows(HINSTANCE instance, const fixture::CommandLine& asked) {
+HWND ShowWindows(const fixture::CommandLine& asked) {
   constexpr wchar_t kCombo[] = L"Internet Explorer_TridentCmboBx";
   constexpr wchar_t kList[] = L"Internet Explorer_TridentLstBox";
-  Register(instance, kMainClass, MainProcedure);
-  Register(instance, scene.documentClass, DocumentProcedure);
-  HWND main = Show("main", kMainClass, asked.title.c_str(), nullptr,
+  fixture::Register(kMainClass, MainProcedure);
+  fixture::Register(scene.documentClass, DocumentProcedure);
+  HWND main = Show(L"main", kMainClass, asked.title.c_str(), nullptr,
                    {asked.x, asked.y, asked.width, asked.height});
   HWND document =
-      Show("document", scene.documentClass, L"", main, {0, 0, asked.width, asked.height});
+      Show(L"document", scene.documentClass, L"", main, {0, 0, asked.width, asked.height});
   if (scene.hasLists) {
-    Register(instance, kCombo, DefWindowProcW);
-    Register(instance, kList, DefWindowProcW);
-    Show("combo", kCombo, L"", document, {220, 210, 100, 20});
-    Show("list", kList, L"", document, {220, 240, 100, 40});
+    fixture::Register(kCombo, DefWindowProcW);
+    fixture::Register(kList, DefWindowProcW);
+    Show(L"combo", kCombo, L"", document, {220, 210, 100, 20});
+    Show(L"list", kList, L"", document, {220, 240, 100, 40});
   }
   UpdateWindow(document);
   return main;
 }
 
-struct LocalFreeCall {
-  void operator()(wchar_t** words) const { LocalFree(words); }
-};
-
 }  // namespace
 
-int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int) {
-  int count = 0;
-  const std::unique_ptr<wchar_t*, LocalFreeCall> words(
-      CommandLineToArgvW(GetCommandLineW(), &count));
-  const fixture::CommandLine asked = fixture::ParseCommandLine(count, words.get());
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) {
+  const fixture::CommandLine asked = fixture::ParseCommandLine(fixture::OwnWords());
   if (asked.kinds.size() != 1 ||
       !html::BuildScene(asked.kinds[0].kind, asked.kinds[0].text, scene)) {
     return 2;
@@ -213,11 +185,10 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int) {
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
   MyInternetexplore::InterfaceDescription description;
   description.Hold();
-  SetTimer(ShowWindows(instance, asked), 1, asked.deadlineSeconds * 1000, nullptr);
-  Say("ready");
+  ShowWindows(asked);
+  fixture::Say("ready");
 
-  MSG message;
-  while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
+  const int code = fixture::RunUntilTheEnd(asked.parentProcess, asked.deadlineSeconds);
   // The other side may hold objects still.
-  ExitProcess(static_cast<UINT>(message.wParam));
+  ExitProcess(static_cast<UINT>(code));
 }

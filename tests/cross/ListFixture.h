@@ -3,11 +3,10 @@
 
 #include <windows.h>
 
-#include <map>
 #include <string>
 #include <string_view>
 
-#include "driver/ChildProcess.h"
+#include "driver/FixtureProcess.h"
 
 namespace cross {
 
@@ -22,12 +21,11 @@ class ListFixture {
   ListFixture(Bits bits, std::string_view words);
 
   // The control of that kind. Throws when it was not asked for.
-  HWND operator[](const std::string& kind) const { return controls_.at(kind); }
-  gui::ChildProcess& Process() { return process_; }
+  HWND operator[](const std::string& kind) const { return process_[kind]; }
+  gui::ChildProcess& Process() { return process_.Process(); }
 
  private:
-  gui::ChildProcess process_;
-  std::map<std::string, HWND> controls_;
+  gui::FixtureProcess process_;
 };
 
 }  // namespace cross

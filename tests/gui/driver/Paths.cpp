@@ -6,15 +6,10 @@
 #include <string>
 
 namespace gui {
-namespace {
-
-// The build system writes paths of the building machine, which Wine shows on drive Z.
 std::filesystem::path FromBuildPath(std::string path) {
   if (path.starts_with('/')) path.insert(0, "Z:");
   return std::filesystem::path(path).make_preferred();
 }
-
-}  // namespace
 
 std::filesystem::path PackageFolder() { return FromBuildPath(GUI_PACKAGE_FOLDER); }
 

@@ -2,8 +2,12 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 namespace gui {
+
+// The build system writes paths of the building machine, which Wine shows on drive Z.
+std::filesystem::path FromBuildPath(std::string path);
 
 // What users get: the folder of the unpacked package, and the program in it. Not to be run there,
 // where its settings would stay.

@@ -12,11 +12,6 @@
 namespace gui {
 namespace {
 
-// 120 s: twice what a test may need, so that a fixture without a parent does not stay for long.
-std::string FixtureWords(std::string_view words) {
-  return "parent=" + std::to_string(GetCurrentProcessId()) + " deadline=120 " + std::string(words);
-}
-
 // A 32-bit process sees the 32-bit twins of the system's programs, and some of those only start
 // the real program and wait. Does nothing on a 32-bit system.
 class RealSystemFolder {
@@ -46,31 +41,14 @@ std::unique_ptr<ChildProcess> StartSystemProgram(std::string_view name,
 
 }  // namespace
 
-Fixture::Fixture(std::string_view words)
-    : process_(FixtureFile(), FixtureWords(words), FixtureFile().parent_path(),
-               ChildProcess::Output::kRead) {
-  Require(WaitFor(
-      "the fixture is ready",
-      [&](std::string& seen) {
-        seen = process_.ReadOutput();
-        return seen.ends_with("ready\n") || !process_.IsRunning();
-      },
-      Milliseconds(30000)));
-  for (const std::string& line : Split(process_.ReadOutput(), "\n")) {
-    const std::size_t sign = line.find('=');
-    if (sign == std::string::npos) continue;
-    const UINT_PTR handle = std::stoul(line.substr(sign + 1));
-    windows_[line.substr(0, sign)] = reinterpret_cast<HWND>(handle);
-  }
-  if (windows_.empty()) throw std::runtime_error("the fixture refused its command line");
-}
+Fixture::Fixture(std::string_view words) : process_(FixtureFile(), words) {}
 
 Control Fixture::operator[](const std::string& kind) const {
-  return {windows_.at(kind), "the fixture's " + kind};
+  return {process_[kind], "the fixture's " + kind};
 }
 
 void Fixture::Hang(Milliseconds time) const {
-  PostMessageW(windows_.at("main"), fixture::kHang, static_cast<WPARAM>(time.count()), 0);
+  PostMessageW(process_["main"], fixture::kHang, static_cast<WPARAM>(time.count()), 0);
 }
 
 WineProgram::WineProgram(std::string_view program, std::string_view arguments,

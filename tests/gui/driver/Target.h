@@ -3,13 +3,13 @@
 
 #include <windows.h>
 
-#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "driver/ChildProcess.h"
 #include "driver/Control.h"
+#include "driver/FixtureProcess.h"
 
 namespace gui {
 
@@ -26,11 +26,10 @@ class Fixture {
   // Makes the fixture stop answering for that time.
   void Hang(Milliseconds time) const;
 
-  ChildProcess& Process() { return process_; }
+  ChildProcess& Process() { return process_.Process(); }
 
  private:
-  ChildProcess process_;
-  std::map<std::string, HWND> windows_;
+  FixtureProcess process_;
 };
 
 // A program that comes with Wine.
