@@ -11,16 +11,21 @@ std::vector<HWND>& Dialogs() {
   return dialogs;
 }
 
-void Dispatch(MSG& message) {
-  const std::vector<HWND>& dialogs = Dialogs();
-  for (const HWND dialog : dialogs) {
+// Whether the message was a key for the dialog, and is dealt with.
+bool IsForDialog(MSG& message) {
+  // Ticks come all the time, and are never for a dialog.
+  if (message.message == WM_TIMER) return false;
+  for (const HWND dialog : Dialogs()) {
     if (message.hwnd != dialog && !IsChild(dialog, message.hwnd)) continue;
     // Another program may press a button on a page that is not shown and so give it the focus. From
     // there the search for an access key need not end: it goes round among what is shown.
-    if (!IsWindowVisible(message.hwnd)) break;
-    if (IsDialogMessageW(dialog, &message)) return;
-    break;
+    return IsWindowVisible(message.hwnd) && IsDialogMessageW(dialog, &message);
   }
+  return false;
+}
+
+void Dispatch(MSG& message) {
+  if (IsForDialog(message)) return;
   TranslateMessage(&message);
   DispatchMessageW(&message);
 }
