@@ -71,11 +71,9 @@ void RedisplayPanes(const CaptureState& state, const settings::Settings& setting
                     CaptureView& view) {
   const bool fromDocument = settings::LeadingNumber(state.BottomTexts[0]) == 1;
   const PaneChoice choice = ChoosePanes(settings.detail, settings.dispText, fromDocument);
-  PutPaneText(view, ViewText::TopPane, state.TopTexts[choice.top], settings.toFile,
-              kTopOverflowFile);
-  // Redisplayed, both panes save to the same file: users look for it under this name.
+  PutPaneText(view, ViewText::TopPane, state.TopTexts[choice.top], settings.toFile, kOverflowFile);
   PutPaneText(view, ViewText::BottomPane, state.BottomTexts[choice.bottom], settings.toFile,
-              kTopOverflowFile);
+              kOverflowFile);
 }
 
 }  // namespace capture

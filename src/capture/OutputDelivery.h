@@ -17,8 +17,9 @@ namespace capture {
 constexpr std::size_t kOverlong = 65'535;
 constexpr std::size_t kShownOfOverlong = 65'000;
 
-constexpr std::wstring_view kTopOverflowFile = L"文字数オーバー上段(Velmora).txt";
-constexpr std::wstring_view kBottomOverflowFile = L"文字数オーバー下段(Velmora).txt";
+// The file on the desktop for the whole of an over-long text. Both panes save there, and the last
+// one stays: users look for it under this name.
+constexpr std::wstring_view kOverflowFile = L"文字数オーバー上段(Velmora).txt";
 
 // What the pane shows instead of an over-long text. savedAs is the name of the file on the desktop
 // that holds the whole text; empty when there is none.

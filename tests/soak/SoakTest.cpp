@@ -39,13 +39,12 @@ struct Options {
 Options options;
 
 // Over-long texts are saved there.
-class OverflowFiles {
+class OverflowFile {
  public:
-  ~OverflowFiles() {
-    for (const std::wstring_view name : {capture::kTopOverflowFile, capture::kBottomOverflowFile}) {
-      std::error_code ignored;
-      std::filesystem::remove(std::filesystem::path(capture::DesktopFolder()) / name, ignored);
-    }
+  ~OverflowFile() {
+    std::error_code ignored;
+    const std::filesystem::path desktop = capture::DesktopFolder();
+    std::filesystem::remove(desktop / capture::kOverflowFile, ignored);
   }
 };
 
@@ -130,7 +129,7 @@ class SoakTest : public gui::GuiTest {
   static constexpr std::size_t kRemembered = 25;
 
   std::filesystem::path folder_ = gui::FreshFolder();
-  OverflowFiles overflowFiles_;
+  OverflowFile overflowFile_;
   std::deque<std::string> last_;
   int count_ = 0;
   int messages_ = 0;

@@ -59,17 +59,16 @@ TEST(RedisplayPanesTest, BothPanesNameTheSameFile) {
   FakeCapture fake;
   fake.state.TopTexts[2].assign(kOverlong, L'a');
   fake.state.BottomTexts[2].assign(kOverlong, L'b');
-  fake.settings.toFile = 0;
   // The file is named in the shown text only when it is written, so it is written: to the desktop
   // of the test's own prefix.
   fake.settings.toFile = 1;
   RedisplayPanes(fake.state, fake.settings, fake.view);
   for (const ViewText pane : {ViewText::TopPane, ViewText::BottomPane}) {
-    EXPECT_NE(fake.view.texts[pane].find(kTopOverflowFile), std::wstring::npos);
+    EXPECT_NE(fake.view.texts[pane].find(kOverflowFile), std::wstring::npos);
   }
-  EXPECT_FALSE(
-      std::filesystem::exists(std::filesystem::path(DesktopFolder()) / kBottomOverflowFile));
-  std::filesystem::remove(std::filesystem::path(DesktopFolder()) / kTopOverflowFile);
+  EXPECT_FALSE(std::filesystem::exists(std::filesystem::path(DesktopFolder()) /
+                                       L"文字数オーバー下段(Velmora).txt"));
+  std::filesystem::remove(std::filesystem::path(DesktopFolder()) / kOverflowFile);
 }
 
 class PutPaneTextTest : public testing::Test {
