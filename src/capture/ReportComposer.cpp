@@ -72,8 +72,9 @@ class Report {
   }
 
   void ClearSlots() const {
-    for (std::wstring& text : State().TopTexts) text.clear();
-    for (std::wstring& text : State().BottomTexts) text.clear();
+    // With their memory: one huge text would keep it until the program ends.
+    for (std::wstring& text : State().TopTexts) std::wstring().swap(text);
+    for (std::wstring& text : State().BottomTexts) std::wstring().swap(text);
     SetText(ViewText::txtCount, {});
     Attempt([&] { context_.view.SetVisible(ViewText::txtCount, true); });
   }
@@ -114,8 +115,8 @@ class Report {
 
     MyInternetexplore::PageTexts texts;
     Attempt([&] { texts = page->Texts(); });
-    State().BottomTexts[3] = texts.displayed;
-    State().BottomTexts[2] = texts.markup;
+    State().BottomTexts[3] = std::move(texts.displayed);
+    State().BottomTexts[2] = std::move(texts.markup);
     Attempt([&] { context_.system.Pump(); });
 
     MyInternetexplore::PageFacts facts;
@@ -143,7 +144,7 @@ class Report {
       text = ReadByCategory(readers_, category_, {target_, point_, session, method});
     });
     State().BottomTexts[1].clear();
-    State().BottomTexts[2] = text;
+    State().BottomTexts[2] = std::move(text);
     Redisplay();
     Attempt([&] { context_.system.Pump(); });
   }
@@ -164,7 +165,7 @@ class Report {
       if (!Answers()) return;
       texts = readers_.Accessible(Set().fromHwnd == 1 ? target_ : nullptr, point_, session);
     });
-    State().TopTexts[1] = texts.report;
+    State().TopTexts[1] = std::move(texts.report);
     SetText(ViewText::txtWin2, texts.name);
     Redisplay();
   }

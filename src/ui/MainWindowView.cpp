@@ -57,7 +57,8 @@ void MainWindowView::SetText(ViewText part, const std::wstring& text) {
   } else {
     SetWindowTextW(ControlOf(part), text.c_str());
   }
-  shown = text;
+  // Not assigned: a huge text would keep its memory.
+  std::wstring(text).swap(shown);
 }
 
 void MainWindowView::SetVisible(ViewText part, bool visible) {

@@ -251,6 +251,16 @@ TEST_F(ReportComposerTest, TakesTheTextFromTheHandleWhenAsked) {
   EXPECT_EQ(Text(ViewText::lblTextKind), L"");
 }
 
+TEST_F(ReportComposerTest, AHugeTextGivesItsMemoryBack) {
+  readers_.pointText.assign(1'000'000, L'a');
+  Compose();
+  EXPECT_EQ(fake_.state.TopTexts[2].size(), 1'000'000U);
+  readers_.pointText = L"b";
+  Compose();
+  EXPECT_EQ(fake_.state.TopTexts[2], L"b");
+  EXPECT_LT(fake_.state.TopTexts[2].capacity(), 1000U);
+}
+
 TEST_F(ReportComposerTest, WithoutAWindowTheObjectIsThatAtThePoint) {
   fake_.settings.fromHwnd = 1;
   fake_.state.TargetWindow = nullptr;
