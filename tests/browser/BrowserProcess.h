@@ -21,6 +21,7 @@ class BrowserProcess {
   gui::Control operator[](const std::string& name) const;
   HWND Window() const { return process_["document"]; }
   bool IsRunning() const { return process_.IsRunning(); }
+  gui::ChildProcess& Process() { return process_.Process(); }
   const gui::ChildProcess& Process() const { return process_.Process(); }
 
   // What others hold of the page's objects; how many members were called; how often the document

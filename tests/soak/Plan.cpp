@@ -3,6 +3,8 @@
 #include <iterator>
 #include <sstream>
 
+#include "Choices.h"
+#include "TargetKinds.h"
 #include "ui/ControlIds.h"
 
 namespace soak {
@@ -10,125 +12,26 @@ namespace {
 
 constexpr int kScreenWidth = 1280;
 constexpr int kScreenHeight = 1024;
-constexpr int kHotKeys = 29;
 
-struct Row {
-  Do what;
-  const char* words;
-};
-
-constexpr Row kWords[] = {
-    {Do::kMove, "move to"},
-    {Do::kSweep, "sweep to"},
-    {Do::kRest, "rest for ms"},
-    {Do::kOpen, "open at place, kind"},
-    {Do::kClose, "close at place"},
-    {Do::kKill, "kill at place"},
-    {Do::kHang, "hang at place"},
-    {Do::kWake, "wake at place"},
-    {Do::kGo, "start a capture"},
-    {Do::kPress, "press control"},
-    {Do::kClick, "click control"},
-    {Do::kDoubleClick, "double-click control"},
-    {Do::kDragSplitter, "drag the splitter by"},
-    {Do::kResize, "resize to"},
-    {Do::kHotKey, "hot key"},
-    {Do::kFront, "Alt+T"},
-    {Do::kSelectAll, "Ctrl+A"},
-    {Do::kActionKey, "Ctrl"},
-    {Do::kOpenSettings, "open the settings"},
-    {Do::kPressInSettings, "settings: press"},
-    {Do::kChooseInSettings, "settings: choose in list, entry"},
-    {Do::kTypeInSettings, "settings: type into box, number"},
-    {Do::kCloseSettings, "close the settings"},
-    {Do::kOpenHotKeys, "open the hot keys"},
-    {Do::kChooseHotKey, "hot keys: choose"},
-    {Do::kCloseHotKeys, "close the hot keys by"},
-};
-
-constexpr int kToggles[] = {ui::chkDetail, ui::chkTurnBack, ui::chkAutoStop};
-constexpr int kClicked[] = {ui::txthWnd,      ui::txtWin0,      ui::txtWin1,     ui::txtWin2,
-                            ui::txtWin3,      ui::txtCount,     ui::txtStatus,   ui::txtWinTextT0,
-                            ui::txtWinTextT1, ui::txtWinTextB0, ui::txtWinTextB1};
-constexpr int kDoubleClicked[] = {ui::lblMousePos,  ui::lblMsg,       ui::txthWnd,
-                                  ui::txtWinTextT0, ui::txtWinTextB1, ui::txtWin0};
-
-// Not among them: closing by itself, which would end the run.
-constexpr int kPressedSettings[] = {
-    ui::Opt_Clipboard0, ui::Opt_Clipboard1, ui::Opt_Clipboard2,    ui::Opt_Clipboard3,
-    ui::OptHint0,       ui::OptHint1,       ui::chkTreeViewIndent, ui::OptListview0,
-    ui::OptListview1,   ui::OptListview2,   ui::chkDispText,       ui::ChkAccFromhWnd,
-    ui::OptAct0,        ui::OptAct1,        ui::OptAct2,           ui::OptAct3,
-    ui::chkContinue,    ui::chkChime,       ui::chkShift,          ui::chkDispTop,
-    ui::chkToFile,      ui::chkAutoStart,   ui::lblButton0,        ui::lblButton1,
-    ui::lblButton2,     ui::lblButton3};
-
-struct List {
-  int id;
-  int entries;
-};
-constexpr List kLists[] = {
-    {ui::cmbStLevel, 5}, {ui::cmbAccNameMax, 6}, {ui::cmbChildMaxCount, 8}, {ui::cmbAutoStop, 14}};
-
-constexpr int kBoxes[] = {ui::txtShift0, ui::txtShift1};
-constexpr int kNumbers[] = {0, 1, -1, 20, 30, -300, 300, 99999, -99999};
-
-// A key of the settings file and values that users and their editors put there.
-struct SettingsLine {
-  const char* key;
-  std::initializer_list<const char*> values;
-};
-const SettingsLine kLines[] = {
-    {"top height", {"1200", "0", "3000", "-5", "2147483647", "x"}},
-    {"disp top", {"0", "1"}},
-    {"treeview indent", {"0", "1", "-1"}},
-    {"listview col", {"0", "1", "2", "7"}},
-    {"turn back", {"0", "1", "-1"}},
-    {"mous pos", {"screen", "client", "Client", ""}},
-    {"win handle", {"dec", "hex", ""}},
-    {"enable hot t", {"0", "1"}},
-    {"disp text", {"0", "1"}},
-    {"start node", {"0", "4", "-3", "999999999999"}},
-    {"auto start", {"0", "1"}},
-    {"clipboard", {"0", "1", "2", "3", "9"}},
-    {"hint", {"0", "1", "2"}},
-    {"auto stop", {"0", "0", "1"}},
-    {"auto stop time", {"0", "2", "60", "-1", "2147483647"}},
-    {"chime", {"0", "1"}},
-    {"chime file", {"chimes.wav", "", "\\\\.\\nul", "音.wav"}},
-    {"detail", {"0", "1"}},
-    {"shift", {"0", "0", "1"}},
-    {"shiftx", {"20", "-20", "2147483647", "0"}},
-    {"shifty", {"30", "-30", "-2147483648", "0"}},
-    {"continue", {"0", "0", "1"}},
-    {"parent & children", {"0", "1"}},
-    {"parent & children max", {"10", "0", "1000", "-1"}},
-    {"accname max", {"50", "0", "-7", "100000"}},
-    {"from hwnd", {"0", "1"}},
-    {"action test", {"0", "1", "2", "3", "4"}},
-    {"html tag text length", {"50", "0", "-1"}},
-    {"accvalue text", {"edit,DirectUIHWND", "", ",,,", "表"}},
-    {"setting no", {"0", "1", "2", "3", "8", "-1"}},
-    {"setting left", {"1500", "12900", "-99999", "99999"}},
-    {"setting top", {"1500", "300", "-99999", "99999"}},
-};
-
-constexpr const char* kHotKeyWords[] = {"",   "PAUSE/BREAK", "ESC", "F1", "F2",  "F3",  "F4", "F5",
-                                        "F6", "F7",          "F8",  "F9", "F10", "F11", "F12"};
+// Over the edges and corners of the main window and along its foot, so that each cursor that the
+// system shows there is loaded.
+std::vector<Action> OverTheFrame() {
+  constexpr Place kAt = kMainWindow;
+  constexpr int kRight = kAt.left + kAt.width - 2;
+  constexpr int kBottom = kAt.top + kAt.height - 2;
+  std::vector<Action> moves;
+  for (const int x : {kAt.left + 1, kAt.left + kAt.width / 2, kRight}) {
+    for (const int y : {kAt.top + 1, kAt.top + kAt.height / 2, kBottom}) {
+      moves.push_back({Do::kMove, x, y});
+    }
+  }
+  constexpr int kStep = 20;
+  constexpr int kFoot = kBottom - 16;
+  for (int x = kAt.left + kStep; x < kRight; x += kStep) moves.push_back({Do::kMove, x, kFoot});
+  return moves;
+}
 
 }  // namespace
-
-std::string ToText(const Action& action) {
-  for (const Row& row : kWords) {
-    if (row.what != action.what) continue;
-    std::string text = std::string(row.words) + " " + std::to_string(action.a);
-    if (action.what == Do::kOpen) {
-      return text + " " + TargetKinds()[static_cast<std::size_t>(action.b)].name;
-    }
-    return text + " " + std::to_string(action.b);
-  }
-  return "?";
-}
 
 Place PlaceOnDesktop(int index) {
   constexpr int kColumns = 2;
@@ -244,7 +147,7 @@ std::optional<Action> Plan::UseSettings() {
   if (Chance(15)) return Action{Do::kCloseSettings};
   if (Chance(15)) return Action{Do::kOpenHotKeys};
   if (Chance(20)) {
-    const List list = OneOf(kLists);
+    const ListControl list = OneOf(kListControls);
     return Action{Do::kChooseInSettings, list.id, Below(list.entries)};
   }
   if (Chance(15)) return Action{Do::kTypeInSettings, OneOf(kBoxes), OneOf(kNumbers)};
@@ -369,6 +272,7 @@ std::vector<Action> Plan::Tour() {
   add({Do::kDragSplitter, -60});
   add({Do::kResize, 320, 300});
   add({Do::kResize, kMainWindow.width, kMainWindow.height});
+  for (const Action& move : OverTheFrame()) add(move);
 
   add({Do::kOpenSettings});
   for (const int id : kPressedSettings) {
@@ -376,7 +280,7 @@ std::vector<Action> Plan::Tour() {
     add(*Move());
     add({Do::kRest, 60});
   }
-  for (const List& list : kLists) {
+  for (const ListControl& list : kListControls) {
     for (const int entry : {list.entries - 1, 0}) add({Do::kChooseInSettings, list.id, entry});
   }
   for (const int id : kBoxes) add({Do::kTypeInSettings, id, 20});

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Plan.h"
+#include "TargetKinds.h"
 #include "ui/ControlIds.h"
 
 namespace soak {

@@ -56,10 +56,7 @@ class SoakTest : public gui::GuiTest {
 
   void Carry(Hands& hands, const Action& action) {
     Note(std::to_string(++count_) + ": " + ToText(action));
-    if (action.what == Do::kOpen &&
-        TargetKinds()[static_cast<std::size_t>(action.b)].source == Source::kAccessible) {
-      ++servers_;
-    }
+    if (action.what == Do::kOpen && GivesObjects(static_cast<std::size_t>(action.b))) ++servers_;
     hands.Do(action);
     messages_ += hands.CloseMessages();
     hands.RequireProgram();
@@ -112,6 +109,11 @@ class SoakTest : public gui::GuiTest {
   gui::Allowance Kept() const {
     constexpr int kObjects = 150;
     return {.handles = servers_, .events = servers_ * kObjects};
+  }
+
+  static bool GivesObjects(std::size_t kind) {
+    const Source source = TargetKinds()[kind].source;
+    return source == Source::kAccessible || source == Source::kBrowser;
   }
 
   void Note(const std::string& action) {

@@ -37,6 +37,9 @@ Target::Target(const TargetKind& kind, const Place& place) : kind_(&kind) {
     case Source::kAccessible:
       StartAccessible(words);
       break;
+    case Source::kBrowser:
+      StartBrowser(words);
+      break;
   }
 }
 
@@ -72,11 +75,19 @@ void Target::StartAccessible(const std::string& words) {
   window_ = accessible_->Window();
 }
 
+void Target::StartBrowser(const std::string& words) {
+  browser_ = std::make_unique<html::BrowserProcess>(words);
+  process_ = &browser_->Process();
+  window_ = (*browser_)["main"].Handle();
+}
+
 bool Target::IsWell() const {
-  if (kind_->mayDie && !process_->IsRunning()) return true;
   DWORD_PTR answer = 0;
-  return process_->IsRunning() &&
-         SendMessageTimeoutW(window_, WM_NULL, 0, 0, SMTO_NORMAL, kToAnswer, &answer) != 0;
+  if (SendMessageTimeoutW(window_, WM_NULL, 0, 0, SMTO_NORMAL, kToAnswer, &answer) != 0) {
+    return true;
+  }
+  // It may be just about to end.
+  return kind_->mayDie && process_->WaitForExit(kToClose).has_value();
 }
 
 void Target::Close() {

@@ -10,6 +10,7 @@
 #include "Plan.h"
 #include "TargetKinds.h"
 #include "accessible/FixtureProcess.h"
+#include "browser/BrowserProcess.h"
 #include "driver/Target.h"
 
 namespace soak {
@@ -36,12 +37,14 @@ class Target {
   void StartFixture(const std::string& words);
   void StartLists(const std::string& words);
   void StartAccessible(const std::string& words);
+  void StartBrowser(const std::string& words);
 
   const TargetKind* kind_;
   std::unique_ptr<gui::WineProgram> program_;
   std::unique_ptr<gui::Fixture> fixture_;
   std::unique_ptr<cross::ListFixture> lists_;
   std::unique_ptr<accessible::FixtureProcess> accessible_;
+  std::unique_ptr<html::BrowserProcess> browser_;
   gui::ChildProcess* process_ = nullptr;
   HWND window_ = nullptr;
 };

@@ -37,6 +37,15 @@ constexpr TargetKind kKinds[] = {
     {"codes", Source::kAccessible, "codes", false},
     {"overflow", Source::kAccessible, "overflow", false},
     {"dies", Source::kAccessible, "dies", true},
+    {"page", Source::kBrowser, "fruit", false},
+    {"page, frames", Source::kBrowser, "scrolled", false},
+    {"page, lists", Source::kBrowser, "lists", false},
+    {"page, silent", Source::kBrowser, "silent", false},
+    {"page, junk", Source::kBrowser, "junk", false},
+    {"page, circle", Source::kBrowser, "circle", false},
+    {"page, huge", Source::kBrowser, "huge", false},
+    {"page, fails", Source::kBrowser, "failing", false},
+    {"page, dies", Source::kBrowser, "dies=innerText", true},
 };
 
 }  // namespace

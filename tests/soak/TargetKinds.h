@@ -6,7 +6,7 @@
 
 namespace soak {
 
-enum class Source { kSystem, kFixture, kLists, kAccessible };
+enum class Source { kSystem, kFixture, kLists, kAccessible, kBrowser };
 
 struct TargetKind {
   const char* name;  // for reports
