@@ -1,5 +1,6 @@
 #include "Hands.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <stdexcept>
 
@@ -134,7 +135,7 @@ void Hands::DoInMainWindow(const Action& action) {
     case Do::kDragSplitter: {
       const POINT from = program_[ui::imgSplitter].Center();
       if (WindowFromPoint(from) != program_[ui::imgSplitter].Handle()) break;
-      gui::pointer::Drag(from, {from.x, from.y + action.a});
+      gui::pointer::Drag(from, {from.x, std::max(0L, from.y + action.a)});
       break;
     }
     default:
