@@ -7,7 +7,7 @@
 // stands, "main=HANDLE" (decimal) and the line "ready" go to the standard output. Each action that
 // is performed on an object is added to the window's caption, as "ACTION@TICK;". The program ends
 // when its window is closed, when its parent ends and at its deadline. Exit codes: 0 closed, 2
-// unknown scene, 3 parent gone or deadline passed.
+// unknown scene, 3 parent gone or deadline passed, 4 COM refuses.
 #include <windows.h>
 
 #include <objbase.h>
@@ -18,6 +18,7 @@
 #include "Scenes.h"
 #include "fixture/CommandLine.h"
 #include "fixture/FixtureProgram.h"
+#include "fixture/HeldInterfaces.h"
 
 namespace {
 
@@ -66,6 +67,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, wchar_t*, int) {
   }
 
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+  if (!fixture::HoldInterfaces({IID_IDispatch, IID_IAccessible, IID_IEnumVARIANT})) return 4;
   HWND window = CreateFixtureWindow(instance, asked);
   for (accessible::Node& node : scene.nodes) {
     node.onAction = [window](const std::string& action) { AddToCaption(window, action); };

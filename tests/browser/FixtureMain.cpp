@@ -8,7 +8,7 @@
 // (decimal) for "main", "document" and, where the scene has them, "combo" and "list" goes to the
 // standard output, then the line "ready". The program ends when its window is closed, when
 // its parent ends and at its deadline. Exit codes: 0 closed, 2 unknown scene, 3 parent gone or
-// deadline passed.
+// deadline passed, 4 COM refuses.
 #include <windows.h>
 
 #include <objbase.h>
@@ -23,6 +23,7 @@
 #include "browser/InterfaceDescription.h"
 #include "fixture/CommandLine.h"
 #include "fixture/FixtureProgram.h"
+#include "fixture/HeldInterfaces.h"
 
 namespace {
 
@@ -185,6 +186,11 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) {
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
   MyInternetexplore::InterfaceDescription description;
   description.Hold();
+  if (!fixture::HoldInterfaces({IID_IDispatch, IID_IHTMLDocument, IID_IHTMLDocument2,
+                                IID_IHTMLElement, IID_IHTMLElement2, IID_IHTMLFramesCollection2,
+                                IID_IHTMLRect, IID_IHTMLWindow2})) {
+    return 4;
+  }
   ShowWindows(asked);
   fixture::Say("ready");
 
