@@ -6,6 +6,7 @@
 #include <chrono>
 #include <string>
 
+#include "DialogWindow.h"
 #include "browser/BrowserProcess.h"
 #include "driver/GuiTest.h"
 #include "driver/Holdings.h"
@@ -148,6 +149,34 @@ TEST_F(BrowserDocumentTest, OtherWindowsAreReportedAfterAHungOne) {
   EXPECT_TRUE(program.IsCapturing());
 }
 
+// What fails on the way to the element is told in a box, and the capture waits for the user. The
+// shift keeps the frames' way, which looks at the point that is read, apart from the element's.
+TEST_F(BrowserDocumentTest, APageThatEndsOnTheWayToItsElementIsToldInABox) {
+  const Fixture fixture("place=40,400,480,420 button=隣");
+  const Program program({.conf = "shift = 1\nshiftx = 20\nshifty = 0\nform left = 560\n"
+                                 "form top = 40\nform right = 1200\nform bottom = 900\n"});
+  program.StartCapture();
+  const BrowserProcess dying(std::string(kPlace) + "\"dies=elementFromPoint 60,90\"");
+  pointer::MoveTo(kItem);
+  {
+    const DialogWindow box(program, kMessageBoxClass);
+    EXPECT_EQ(box.Window().Text(), "GetElFromPoint");
+    std::string text;
+    for (HWND part : Descendants(box.Window().Handle())) text += Control(part, "").Text();
+    // The system's errors of remote calls.
+    EXPECT_NE(text.find("-21470231"), std::string::npos) << text;
+    EXPECT_NE(text.find("\r\nError Line = 0"), std::string::npos) << text;
+    SaveScreenshot("page-error");
+    pointer::MoveTo(fixture["button"].Center());
+    EXPECT_TRUE(program.IsCapturing());
+    box.Close();
+    EXPECT_TRUE(box.Closes());
+  }
+  EXPECT_TRUE(program[ui::txthWnd].TextBecomes(fixture["button"].HandleText()));
+  EXPECT_TRUE(program.TopPane().TextBecomes("隣"));
+  EXPECT_EQ(program.CloseMessages(), 0);
+}
+
 TEST_F(BrowserDocumentTest, HostilePagesDoNotEndTheCapture) {
   const Fixture fixture("place=40,400,480,420 button=隣");
   const Program program({.conf = "detail = 1\nform left = 560\nform top = 40\n"
@@ -168,8 +197,15 @@ TEST_F(BrowserDocumentTest, HostilePagesDoNotEndTheCapture) {
           << scene;
     }
     pointer::MoveTo(fixture["button"].Center());
-    EXPECT_TRUE(
-        program[ui::txthWnd].TextBecomes(fixture["button"].HandleText(), Milliseconds(30000)))
+    EXPECT_TRUE(WaitFor(
+        "the other window is reported",
+        [&](std::string& seen) {
+          // The page has ended somewhere in its report, perhaps on the way to the element.
+          program.CloseMessages();
+          seen = program[ui::txthWnd].Text();
+          return seen == fixture["button"].HandleText();
+        },
+        Milliseconds(30000)))
         << scene;
     EXPECT_TRUE(WaitFor("the report is told to its end", [&](std::string& seen) {
       seen = program.BottomPane().Text();

@@ -245,16 +245,6 @@ void Hands::WaitUntil(const std::string& what, const std::function<void()>& pres
   throw std::runtime_error("not so: " + what);
 }
 
-int Hands::CloseMessages() const {
-  int closed = 0;
-  for (HWND window : gui::VisibleWindows(program_.Process().Id())) {
-    if (gui::Control(window, "").ClassName() != "#32770") continue;
-    PostMessageW(window, WM_CLOSE, 0, 0);
-    ++closed;
-  }
-  return closed;
-}
-
 void Hands::RequireProgram() {
   const HWND window = program_.Window().Handle();
   if (Ask(window, WM_NULL, 0, 0, kToAnswerOverAHungProgram)) return;

@@ -24,7 +24,7 @@ class Hands {
   void Do(const Action& action);
 
   // Closes the program's message boxes; how many there were.
-  int CloseMessages() const;
+  int CloseMessages() const { return program_.CloseMessages(); }
 
   // Throws std::runtime_error unless the program runs and answers. It may be in a call into a
   // program that hangs, which comes back only when that wakes: then all are woken.

@@ -89,6 +89,16 @@ void Program::MoveWindowTo(int left, int top, int width, int height) const {
   SetWindowPos(window_, nullptr, left, top, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+int Program::CloseMessages() const {
+  int closed = 0;
+  for (HWND window : VisibleWindows(process_.Id())) {
+    if (Control(window, "").ClassName() != kMessageBoxClass) continue;
+    PostMessageW(window, WM_CLOSE, 0, 0);
+    ++closed;
+  }
+  return closed;
+}
+
 void Program::Close() const { PostMessageW(window_, WM_CLOSE, 0, 0); }
 
 std::optional<DWORD> Program::CloseAndWait() {

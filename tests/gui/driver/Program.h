@@ -15,6 +15,9 @@
 
 namespace gui {
 
+// The window class of the system's message boxes.
+inline constexpr char kMessageBoxClass[] = "#32770";
+
 // How the program is started. Without `conf` there is no Conf.txt.
 struct ProgramStart {
   std::optional<std::string> conf = std::nullopt;  // UTF-8, lines end with "\n"
@@ -49,6 +52,9 @@ class Program {
 
   // Puts the main window's outer rectangle there.
   void MoveWindowTo(int left, int top, int width, int height) const;
+
+  // Closes the message boxes that stand open; how many there were.
+  int CloseMessages() const;
 
   // Posts the order to close.
   void Close() const;
