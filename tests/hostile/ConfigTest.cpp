@@ -103,6 +103,17 @@ void ExpectMeaning(const ConfigValues& values, const std::wstring& text) {
   EXPECT_EQ(values, expected);
 }
 
+std::string Written(const ConfigValues& values) {
+  std::string file;
+  settings::WriteConfig(
+      [&file](std::string_view bytes) {
+        file += bytes;
+        return true;
+      },
+      values);
+  return file;
+}
+
 std::string RealFile(Random& random) {
   ConfigValues values;
   settings::SetDefaults(kScreen, values);
@@ -112,14 +123,7 @@ std::string RealFile(Random& random) {
       values.record.** number = random.Number();
     }
   }
-  std::string file;
-  settings::WriteConfig(
-      [&file](std::string_view bytes) {
-        file += bytes;
-        return true;
-      },
-      values);
-  return file;
+  return Written(values);
 }
 
 // A value as no dialog would write it.
@@ -220,17 +224,6 @@ ConfigValues Read(const std::string& file, std::wstring& text) {
   text = platform::FromAnsi(file);
   settings::ParseConfig(text, values);
   return values;
-}
-
-std::string Written(const ConfigValues& values) {
-  std::string file;
-  settings::WriteConfig(
-      [&file](std::string_view bytes) {
-        file += bytes;
-        return true;
-      },
-      values);
-  return file;
 }
 
 TEST(HostileConfigTest, FilesMeanWhatTheirLinesSayAndAreWrittenSo) {

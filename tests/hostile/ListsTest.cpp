@@ -99,23 +99,30 @@ class HostileControl {
   int leavesAfter_ = 0;
 };
 
-TEST(HostileListsTest, ListBoxes) {
+// One of the readers that give a line for each item.
+struct ItemReader {
+  const char* name;
+  std::wstring (*read)(HWND hwnd, const platform::ReadSession& session, std::wstring& method,
+                       const extract::ControlAccess& access);
+};
+
+class HostileItemsTest : public testing::TestWithParam<ItemReader> {};
+
+TEST_P(HostileItemsTest, GiveWholeLines) {
   ForEachCase(kCases, [](Random& random) {
     HostileControl control(random);
     FakeTarget& target = control.target;
-    control.ExpectLines(extract::MyGetListBoxItem(target.hwnd, target.capture.Session(),
-                                                  target.method, target.Access()));
+    control.ExpectLines(
+        GetParam().read(target.hwnd, target.capture.Session(), target.method, target.Access()));
   });
 }
 
-TEST(HostileListsTest, ComboBoxes) {
-  ForEachCase(kCases, [](Random& random) {
-    HostileControl control(random);
-    FakeTarget& target = control.target;
-    control.ExpectLines(extract::MyGetComboBoxItem(target.hwnd, target.capture.Session(),
-                                                   target.method, target.Access()));
-  });
-}
+INSTANTIATE_TEST_SUITE_P(Readers, HostileItemsTest,
+                         testing::Values(ItemReader{"ListBoxes", extract::MyGetListBoxItem},
+                                         ItemReader{"ComboBoxes", extract::MyGetComboBoxItem},
+                                         ItemReader{"Toolbars", extract::GetToolbarItem},
+                                         ItemReader{"TabControls", extract::GetTabControlItem}),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 TEST(HostileListsTest, ListViews) {
   ForEachCase(kCases, [](Random& random) {
@@ -133,24 +140,6 @@ TEST(HostileListsTest, ListViews) {
     const std::size_t whole = text.rfind(L"\r\n");
     const bool lost = target.method == L"(untouched)";
     control.ExpectLines(lost ? text.substr(0, whole == std::wstring::npos ? 0 : whole + 2) : text);
-  });
-}
-
-TEST(HostileListsTest, Toolbars) {
-  ForEachCase(kCases, [](Random& random) {
-    HostileControl control(random);
-    FakeTarget& target = control.target;
-    control.ExpectLines(extract::GetToolbarItem(target.hwnd, target.capture.Session(),
-                                                target.method, target.Access()));
-  });
-}
-
-TEST(HostileListsTest, TabControls) {
-  ForEachCase(kCases, [](Random& random) {
-    HostileControl control(random);
-    FakeTarget& target = control.target;
-    control.ExpectLines(extract::GetTabControlItem(target.hwnd, target.capture.Session(),
-                                                   target.method, target.Access()));
   });
 }
 
