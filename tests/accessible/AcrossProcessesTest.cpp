@@ -54,17 +54,17 @@ class AcrossProcessesTest : public testing::Test {
   }
 
   std::wstring ReportAt(POINT point) {
-    return GetAccessibleMemberFromPoint(record_, {}, point, settings_, session_.session);
+    return GetAccessibleMemberFromPoint(record_, {}, point, settings_, session_.Session());
   }
   std::wstring ReportOf(const FixtureProcess& fixture) {
     return GetAccessibleMemberFromPoint(record_, {fixture.Window(), L"類", L"題"}, {}, settings_,
-                                        session_.session);
+                                        session_.Session());
   }
   std::wstring Children(const FixtureProcess& fixture) {
-    return ListChildren(fixture.Window(), settings_, session_.session);
+    return ListChildren(fixture.Window(), settings_, session_.Session());
   }
   std::wstring Tree(const FixtureProcess& fixture, POINT point) {
-    return ListTree(fixture.Window(), point, settings_, session_.session);
+    return ListTree(fixture.Window(), point, settings_, session_.Session());
   }
 
   settings::Settings settings_;
@@ -240,7 +240,7 @@ TEST_F(AcrossProcessesTest, EndlessSiblingsAreListedUntilTheCaptureMovesOn) {
   *item.child.Receive() = platform::UniqueVariant(100).Get();
   session_.yields = 0;
   session_.moveOnAfter = 300;
-  const std::wstring text = ListTreeAround(item, settings_, session_.session);
+  const std::wstring text = ListTreeAround(item, settings_, session_.Session());
   EXPECT_EQ(Lines(text), 300U);
   EXPECT_TRUE(text.ends_with(L"・・・中断・・・"));
 }

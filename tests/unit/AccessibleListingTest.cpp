@@ -26,7 +26,7 @@ class AccessibleListingTest : public testing::Test {
     settings_.treeviewIndent = 1;
   }
 
-  std::wstring Children(Node& root) { return ListChildrenOf(&root, settings_, session_.session); }
+  std::wstring Children(Node& root) { return ListChildrenOf(&root, settings_, session_.Session()); }
 
   std::wstring Tree(Node& root, LONG item) {
     ObjectAndChild start;
@@ -35,7 +35,7 @@ class AccessibleListingTest : public testing::Test {
     VARIANT* const child = start.child.Receive();
     child->vt = VT_I4;
     child->lVal = item;
-    return ListTreeAround(start, settings_, session_.session);
+    return ListTreeAround(start, settings_, session_.Session());
   }
 
   settings::Settings settings_;
@@ -71,7 +71,7 @@ TEST_F(AccessibleListingTest, ChildrenAreFollowedByTheirOwn) {
   group.AddObject(inner);
   inner.AddElement({.name = L"内の一"});
   EXPECT_EQ(Children(root), L"一\r\n組\r\n組の一\r\n内\r\n内の一\r\n三\r\n");
-  EXPECT_THAT(session_.shown, ElementsAre(L"1", L"2", L"3", L"4", L"5", L"6"));
+  EXPECT_THAT(session_.progress, ElementsAre(L"1", L"2", L"3", L"4", L"5", L"6"));
   EXPECT_EQ(session_.yields, 6);
   EXPECT_EQ(root.References(), 1U);
   EXPECT_EQ(group.References(), 1U);
@@ -202,7 +202,7 @@ TEST_F(AccessibleListingTest, TreesAreListedFromTheFirstItemOnIndentedByLevel) {
   AddItem(tree, L"弟", L"1");
   AddItem(tree, L"上", L"0");
   EXPECT_EQ(Tree(tree, 3), L"親\r\n\t子\r\n\t\t孫\r\n弟\r\n上\r\n");
-  EXPECT_THAT(session_.shown, ElementsAre(L"1", L"2", L"3", L"4", L"5"));
+  EXPECT_THAT(session_.progress, ElementsAre(L"1", L"2", L"3", L"4", L"5"));
   settings_.treeviewIndent = 0;
   EXPECT_EQ(Tree(tree, 3), L"親\r\n子\r\n孫\r\n弟\r\n上\r\n");
   EXPECT_EQ(tree.References(), 1U);
@@ -225,7 +225,7 @@ TEST_F(AccessibleListingTest, TreesOfObjectsAreWalkedToo) {
   items[1].AddRef();
   *start.object.GetAddressOf() = &items[1];
   *start.child.Receive() = Self();
-  EXPECT_EQ(ListTreeAround(start, settings_, session_.session), L"一\r\n二\r\n三\r\n");
+  EXPECT_EQ(ListTreeAround(start, settings_, session_.Session()), L"一\r\n二\r\n三\r\n");
   EXPECT_EQ(items[0].References(), 1U);
   EXPECT_EQ(items[2].References(), 1U);
 }
@@ -285,7 +285,7 @@ TEST_F(AccessibleListingTest, LevelsThatAreNoneDoNotIndent) {
 }
 
 TEST_F(AccessibleListingTest, WithoutAnObjectThereIsAnError) {
-  EXPECT_EQ(ListTree(nullptr, {-30'000, -30'000}, settings_, session_.session),
+  EXPECT_EQ(ListTree(nullptr, {-30'000, -30'000}, settings_, session_.Session()),
             L"% 取得エラー！ %");
 }
 

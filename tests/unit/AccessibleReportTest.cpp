@@ -65,7 +65,7 @@ class AccessibleReportTest : public testing::Test {
     found.child.Receive()->vt = VT_I4;
     *found.child.Receive() = platform::UniqueVariant(child).Get();
     for (Node* const node : {&window_, &group_, &list_, &button_}) node->calls.clear();
-    return ReportOf(record_, window, found, settings_, session_.session);
+    return ReportOf(record_, window, found, settings_, session_.Session());
   }
 
   Node window_{
@@ -118,7 +118,7 @@ TEST_F(AccessibleReportTest, AnObjectWithAncestorsAndChildren) {
                 L" \"追加\"\t43:ボタン\t(10,36,110,52)\tChildCount=0\t\"加\" TypeName=Real "
                 L"Object\r\n"
                 L" \"蜜柑\"\t34:リスト項目\t(10,52,110,68)\tChildCount=0\t\"橙\"\r\n");
-  EXPECT_THAT(session_.shown, ElementsAre(L"1", L"2", L"3"));
+  EXPECT_THAT(session_.progress, ElementsAre(L"1", L"2", L"3"));
   EXPECT_THAT(boxes_, ElementsAre());
 }
 
@@ -411,10 +411,10 @@ TEST_F(AccessibleReportTest, AnotherTargetInterruptsTheChildren) {
 
 TEST_F(AccessibleReportTest, WithoutAnObjectThereIsNoReport) {
   EXPECT_EQ(
-      GetAccessibleMemberFromPoint(record_, {}, {-30'000, -30'000}, settings_, session_.session),
+      GetAccessibleMemberFromPoint(record_, {}, {-30'000, -30'000}, settings_, session_.Session()),
       L"");
   EXPECT_EQ(GetAccessibleMemberFromPoint(record_, {reinterpret_cast<HWND>(0x7FFF1234), L"", L""},
-                                         {}, settings_, session_.session),
+                                         {}, settings_, session_.Session()),
             L"");
 }
 

@@ -1,6 +1,9 @@
 // A session in which a test is the target window: it notes the progress and may move on.
 #pragma once
 
+#include <windows.h>
+
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -8,19 +11,23 @@
 #include "platform/ReadSession.h"
 
 struct FakeSession {
-  HWND target = reinterpret_cast<HWND>(1);
+  HWND target = reinterpret_cast<HWND>(static_cast<std::uintptr_t>(0x1234));
   bool running = true;
-  int yields = 0;
   int moveOnAfter = -1;  // the target changes in that yield
   int endAfter = -1;     // the capture ends in that yield
-  std::vector<std::wstring> shown;
-  platform::ReadSession session{
-      target,
-      [this](const std::wstring& text) { shown.push_back(text); },
-      [this] {
-        if (++yields == moveOnAfter) target = reinterpret_cast<HWND>(2);
-        if (yields == endAfter) running = false;
-      },
-      [this] { return running; },
-  };
+  std::function<void()> onYield = [] {};
+  int yields = 0;
+  std::vector<std::wstring> progress;
+
+  platform::ReadSession Session() {
+    return {target, [this](const std::wstring& text) { progress.push_back(text); },
+            [this] {
+              ++yields;
+              if (yields == moveOnAfter) GoElsewhere();
+              if (yields == endAfter) running = false;
+              onYield();
+            },
+            [this] { return running; }};
+  }
+  void GoElsewhere() { target = reinterpret_cast<HWND>(static_cast<std::uintptr_t>(0x9999)); }
 };

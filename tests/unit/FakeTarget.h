@@ -12,8 +12,8 @@
 #include <type_traits>
 #include <vector>
 
+#include "FakeSession.h"
 #include "extract/ControlAccess.h"
-#include "platform/ReadSession.h"
 
 template <typename Value>
 unsigned AsNumber(Value value) {
@@ -201,25 +201,6 @@ class FakeMessages : public extract::ControlMessages {
   std::vector<Sent> sent;
   DWORD style = 0;
   HWND askedProcessOf = nullptr;
-};
-
-// What the capture is to a reader.
-struct FakeSession {
-  HWND target = reinterpret_cast<HWND>(static_cast<std::uintptr_t>(0x1234));
-  std::vector<std::wstring> progress;
-  int yields = 0;
-  std::function<void()> onYield = [] {};
-  bool running = true;
-
-  platform::ReadSession Session() {
-    return {target, [this](const std::wstring& text) { progress.push_back(text); },
-            [this] {
-              ++yields;
-              onYield();
-            },
-            [this] { return running; }};
-  }
-  void GoElsewhere() { target = reinterpret_cast<HWND>(static_cast<std::uintptr_t>(0x9999)); }
 };
 
 // Everything one reader needs.

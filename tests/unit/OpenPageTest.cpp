@@ -66,7 +66,7 @@ class OpenPageTest : public testing::Test {
     fake_.pointer = {1000 + inPage.x, 2000 + inPage.y};
     return OpenPage(reinterpret_cast<HWND>(7), fake_.pointer, options, fake_.access);
   }
-  PageFacts Facts(POINT inPage) { return Open(inPage)->Facts(session_.session); }
+  PageFacts Facts(POINT inPage) { return Open(inPage)->Facts(session_.Session()); }
 
   static std::vector<std::wstring> Tags(const PageFacts& facts) {
     std::vector<std::wstring> tags;
@@ -198,7 +198,7 @@ TEST_F(OpenPageTest, TheFrameIsThatOfTheReadPointAndTheElementThatOfThePointer) 
   page_.At("IFRAME#out").document = &page_.Top();
   fake_.pointer = {1050, 2050};
   const auto page = OpenPage(reinterpret_cast<HWND>(7), {1500, 2500}, {0, 50}, fake_.access);
-  EXPECT_THAT(page->Facts(session_.session).chain, IsEmpty());
+  EXPECT_THAT(page->Facts(session_.Session()).chain, IsEmpty());
   EXPECT_THAT(page_.watch.calls, Contains("document http://top/.elementFromPoint 500,500"));
   EXPECT_THAT(fake_.calls, Not(Contains("pointer")));
 }
@@ -228,7 +228,7 @@ class TwoFramesTest : public OpenPageTest {
 TEST_F(TwoFramesTest, WithAReadPointAsideTheFrameIsItsAndThePlaceInItThePointers) {
   fake_.pointer = {1050, 2050};
   const auto aside = OpenPage(reinterpret_cast<HWND>(7), {1150, 2050}, {0, 50}, fake_.access);
-  const PageFacts facts = aside->Facts(session_.session);
+  const PageFacts facts = aside->Facts(session_.Session());
   EXPECT_EQ(facts.framePath, L"right");
   // The pointer is 50 to the left of that frame.
   EXPECT_EQ(facts.chain.back().idOrName, L"right-west");
