@@ -7,8 +7,10 @@
 namespace platform {
 namespace {
 
+// In the topmost band, where the main window may stand: a box under it would hold up the capture
+// unseen. That is all that "system modal" means today.
 void SystemMessageBox(const std::wstring& text, const std::wstring& title) {
-  MessageBoxW(GetActiveWindow(), text.c_str(), title.c_str(), MB_OK);
+  MessageBoxW(GetActiveWindow(), text.c_str(), title.c_str(), MB_OK | MB_SYSTEMMODAL);
 }
 
 MessageBoxFunction& Current() {

@@ -153,14 +153,18 @@ TEST_F(BrowserDocumentTest, OtherWindowsAreReportedAfterAHungOne) {
 // shift keeps the frames' way, which looks at the point that is read, apart from the element's.
 TEST_F(BrowserDocumentTest, APageThatEndsOnTheWayToItsElementIsToldInABox) {
   const Fixture fixture("place=40,400,480,420 button=隣");
-  const Program program({.conf = "shift = 1\nshiftx = 20\nshifty = 0\nform left = 560\n"
-                                 "form top = 40\nform right = 1200\nform bottom = 900\n"});
+  const Program program({.conf = "shift = 1\nshiftx = 20\nshifty = 0\ndisp top = 1\n"
+                                 "form left = 490\nform top = 40\nform right = 1200\n"
+                                 "form bottom = 900\n"});
   program.StartCapture();
   const BrowserProcess dying(std::string(kPlace) + "\"dies=elementFromPoint 60,90\"");
   pointer::MoveTo(kItem);
   {
     const DialogWindow box(program, kMessageBoxClass);
     EXPECT_EQ(box.Window().Text(), "GetElFromPoint");
+    // Not even a main window that stays in front hides it.
+    EXPECT_EQ(GetAncestor(WindowFromPoint(box.Window().Center()), GA_ROOT), box.Window().Handle());
+    EXPECT_NE(GetWindowLongW(box.Window().Handle(), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
     std::string text;
     for (HWND part : Descendants(box.Window().Handle())) text += Control(part, "").Text();
     // The system's errors of remote calls.
