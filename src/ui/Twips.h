@@ -15,9 +15,15 @@ struct TwipsRect {
   std::int32_t width = 0;
   std::int32_t height = 0;
 
-  std::int32_t Right() const { return left + width; }
-  std::int32_t Bottom() const { return top + height; }
+  // Clamped to 32 bits: a settings file may ask for any height.
+  std::int32_t Right() const { return End(left, width); }
+  std::int32_t Bottom() const { return End(top, height); }
   bool operator==(const TwipsRect&) const = default;
+
+ private:
+  static std::int32_t End(std::int64_t begin, std::int64_t size) {
+    return platform::ClampToInt32(begin + size);
+  }
 };
 
 struct TwipsScale {

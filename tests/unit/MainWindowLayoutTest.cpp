@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <map>
 #include <set>
 
@@ -79,6 +80,24 @@ TEST(LayoutTest, TheTopPaneIsShrunkOnlyWhenItEndsMoreThan120BelowTheWindow) {
   // Enlarging the window does not bring the former height back.
   const auto enlarged = LayOut(7000, 9000, shrunk.topHeight, kAt96, shrunk.g);
   EXPECT_EQ(enlarged.g.T.height, shrunk.g.T.height);
+}
+
+// A settings file may ask for any height.
+TEST(LayoutTest, AHeightBeyondEveryScreenIsShrunkToo) {
+  constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+  MainWindowGeometry now = DesignGeometry();
+  now.T.height = kMost;
+  const auto shrunk = LayOut(7000, 6000, kMost, kAt96, now);
+  EXPECT_EQ(shrunk.g.T.height, 6000 - now.T.top - 1500);
+  EXPECT_EQ(shrunk.topHeight, shrunk.g.T.height);
+  EXPECT_EQ(shrunk.g.B.Bottom(), shrunk.g.txtStatus.top + 1);
+
+  // Where there is no room for that either, everything below it is out of sight.
+  const auto flat = LayOut(7000, 1000, kMost, kAt96, now).g;
+  EXPECT_EQ(flat.T.Bottom(), kMost);
+  EXPECT_EQ(flat.frCenter.top, kMost);
+  EXPECT_EQ(flat.B.top, kMost);
+  EXPECT_EQ(flat.B.height, DesignGeometry().B.height);
 }
 
 TEST(LayoutTest, StacksPaneStripGripAndPane) {
