@@ -58,12 +58,13 @@ TEST_F(SplitterTest, PressAloneShowsTheBarOnTheGrip) {
   const Program program({.conf = kConf});
   EXPECT_FALSE(program[ui::picSplitter].IsVisible());
   const RECT grip = program[ui::imgSplitter].Rectangle();
-  pointer::Press({(grip.left + grip.right) / 2, grip.top});
+  const POINT middle = {(grip.left + grip.right) / 2, grip.top};
+  pointer::Press(middle);
   EXPECT_TRUE(WaitFor("the bar is shown",
                       [&](std::string&) { return program[ui::picSplitter].IsVisible(); }));
   EXPECT_EQ(program[ui::picSplitter].Rectangle().left, grip.left);
   EXPECT_EQ(program[ui::picSplitter].Rectangle().top, grip.top);
-  pointer::Release();
+  pointer::Release(middle);
   EXPECT_TRUE(WaitFor("the bar is hidden",
                       [&](std::string&) { return !program[ui::picSplitter].IsVisible(); }));
 }

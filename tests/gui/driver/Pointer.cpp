@@ -8,15 +8,24 @@
 namespace gui::pointer {
 namespace {
 
+// A pixel of the screen in the 65,536 steps that absolute positions are given in.
+LONG Absolute(LONG pixel, int metric) {
+  const LONG size = GetSystemMetrics(metric);
+  return (pixel * 65536 + size - 1) / size;
+}
+
 // All in one call and at one time: a pause between the clicks of a double click, on a machine that
-// is busy, would make two single clicks of it.
-void SendButtons(std::initializer_list<DWORD> flags) {
+// is busy, would make two single clicks of it. Every event tells its place: Wine may just now have
+// moved the pointer back to where a window that has opened or closed saw it last.
+void SendButtons(POINT point, std::initializer_list<DWORD> flags) {
   const DWORD now = GetTickCount();
   std::vector<INPUT> inputs;
   for (const DWORD flag : flags) {
     INPUT input = {};
     input.type = INPUT_MOUSE;
-    input.mi.dwFlags = flag;
+    input.mi.dx = Absolute(point.x, SM_CXSCREEN);
+    input.mi.dy = Absolute(point.y, SM_CYSCREEN);
+    input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE | flag;
     input.mi.time = now;
     inputs.push_back(input);
   }
@@ -37,19 +46,20 @@ void MoveTo(POINT point) {
 
 void Press(POINT point) {
   MoveTo(point);
-  SendButtons({MOUSEEVENTF_LEFTDOWN});
+  SendButtons(point, {MOUSEEVENTF_LEFTDOWN});
 }
 
-void Release() { SendButtons({MOUSEEVENTF_LEFTUP}); }
+void Release(POINT point) { SendButtons(point, {MOUSEEVENTF_LEFTUP}); }
 
 void Click(POINT point) {
-  Press(point);
-  Release();
+  MoveTo(point);
+  SendButtons(point, {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP});
 }
 
 void DoubleClick(POINT point) {
   MoveTo(point);
-  SendButtons({MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP});
+  SendButtons(point,
+              {MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP});
 }
 
 void Drag(POINT from, POINT to, const std::function<void()>& beforeRelease) {
@@ -64,7 +74,7 @@ void Drag(POINT from, POINT to, const std::function<void()>& beforeRelease) {
     MoveTo({to.x + tremble, to.y});
   }
   beforeRelease();
-  Release();
+  Release(to);
 }
 
 void Park() { MoveTo({3, GetSystemMetrics(SM_CYSCREEN) - 3}); }

@@ -13,7 +13,7 @@ void Click(POINT point);
 void DoubleClick(POINT point);
 
 void Press(POINT point);
-void Release();
+void Release(POINT point);
 
 // Press at `from`, move in steps to `to`; `beforeRelease` runs with the button still down.
 void Drag(
