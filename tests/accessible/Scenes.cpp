@@ -2,6 +2,8 @@
 
 #include <cwchar>
 
+#include "fixture/HugeText.h"
+
 namespace accessible {
 namespace {
 
@@ -88,7 +90,7 @@ void BuildClaims(const std::wstring&, const RECT& place, Scene& scene) {
 }
 
 void BuildHuge(const std::wstring&, const RECT& place, Scene& scene) {
-  const std::wstring name(5'000'000, L'巨');
+  const std::wstring name = fixture::HugeText(5'000'000);
   Node& root = Root(scene, place);
   root.Own().name = name;
   root.AddElement({.name = name, .role = ROLE_SYSTEM_LISTITEM});

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "fixture/HugeText.h"
+
 namespace html {
 namespace {
 
@@ -238,7 +240,7 @@ DocumentData NestedFramesPage(int frames) {
 }
 
 DocumentData HugePage(std::size_t characters) {
-  const std::wstring text(characters, L'巨');
+  const std::wstring text = fixture::HugeText(characters);
   return Document(L"http://host.example/huge", text, text,
                   {{.tag = L"P", .text = text, .markup = text, .place = {0, 0, 400, 280}}});
 }
