@@ -294,6 +294,8 @@ std::vector<Action> Plan::Tour() {
   for (int i = 0; i < kPlaces; ++i) {
     if (slots_[i].kind.has_value()) add({Do::kClose, i});
   }
+  // Once more, now that nothing else is going on: a busy program misses where the pointer was.
+  for (const Action& move : OverTheFrame()) add(move);
   return tour;
 }
 
