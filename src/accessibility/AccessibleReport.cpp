@@ -15,7 +15,7 @@ namespace {
 constexpr std::wstring_view kCrLf = L"\r\n";
 
 AccessibleFacts ReadFacts(const ObjectAndChild& found, const settings::Settings& settings,
-                          const platform::ReadSession& session) {
+                          const ListingProgress& progress) {
   IAccessible* const object = found.object.Get();
   const VARIANT& child = found.child.Get();
   AccessibleFacts facts;
@@ -38,7 +38,7 @@ AccessibleFacts ReadFacts(const ObjectAndChild& found, const settings::Settings&
     }
   }
   facts.childCount = ChildCountText(object, child);
-  if (settings.parentChildren == 1) facts.children = ChildRows(object, child, settings, session);
+  if (settings.parentChildren == 1) facts.children = ChildRows(object, child, settings, progress);
   return facts;
 }
 
@@ -148,9 +148,10 @@ class Words {
 // Everything in the order in which it is told; what an overflow leaves untold is not read.
 ReportFacts ReadReport(const ReportedWindow& window, const ObjectAndChild& found,
                        const settings::Settings& settings, const platform::ReadSession& session) {
+  const ListingProgress progress(session);
   ReportFacts facts;
   facts.window = window;
-  facts.object = ReadFacts(found, settings, session);
+  facts.object = ReadFacts(found, settings, progress);
   IAccessible* const object = found.object.Get();
   const VARIANT& child = found.child.Get();
   if (!facts.object.role.empty()) {
@@ -160,8 +161,8 @@ ReportFacts ReadReport(const ReportedWindow& window, const ObjectAndChild& found
   }
   if (settings.parentChildrenMax >= 1) {
     // Asked for twice: first whether there are any, then what they are.
-    facts.hasAncestors = !AncestorRows(object, child, settings).empty();
-    if (facts.hasAncestors) facts.ancestors = AncestorRows(object, child, settings);
+    facts.hasAncestors = !AncestorRows(object, child, settings, progress).empty();
+    if (facts.hasAncestors) facts.ancestors = AncestorRows(object, child, settings, progress);
   }
   return facts;
 }

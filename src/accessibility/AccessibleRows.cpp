@@ -6,7 +6,6 @@
 
 #include "accessibility/AccessibleListing.h"
 #include "accessibility/ChildWalk.h"
-#include "accessibility/ListingProgress.h"
 
 namespace MyAccessible {
 namespace {
@@ -62,15 +61,20 @@ std::wstring RowText(const RowFacts& row) {
 }
 
 std::wstring AncestorRows(IAccessible* object, const VARIANT& child,
-                          const settings::Settings& settings) {
+                          const settings::Settings& settings, const ListingProgress& progress) {
   const std::int32_t max = settings.parentChildrenMax;
   if (max == 0) return {};
   std::vector<std::wstring> rows;
   AccessiblePtr ancestor = IsSelf(child) ? AccParent(object) : AccessiblePtr(object);
   for (std::int32_t i = 0; ancestor && i <= max && i < kMostAncestors; ++i) {
+    if (progress.HasMovedOn()) {
+      rows.push_back(std::wstring(platform::kInterrupted).append(kCrLf));
+      break;
+    }
     RowFacts row = ReadRow(ancestor.Get(), Self(), settings.accnameMax);
     row.last = AccName(ancestor.Get(), child);
     rows.push_back(RowText(row));
+    progress.LetGoOn();
     ancestor = AccParent(ancestor.Get());
   }
   std::wstring text;
@@ -79,10 +83,9 @@ std::wstring AncestorRows(IAccessible* object, const VARIANT& child,
 }
 
 std::wstring ChildRows(IAccessible* object, const VARIANT& child,
-                       const settings::Settings& settings, const platform::ReadSession& session) {
+                       const settings::Settings& settings, const ListingProgress& progress) {
   const AccessiblePtr parent = Parent(object, child);
   if (!parent) return {};
-  const ListingProgress progress(session);
   std::wstring text;
   std::int32_t listed = 0;
   ChildWalk walk(parent.Get(), settings.parentChildrenMax);

@@ -8,8 +8,8 @@
 
 #include <string>
 
+#include "accessibility/ListingProgress.h"
 #include "accessibility/MyAccessible.h"
-#include "platform/ReadSession.h"
 #include "settings/Settings.h"
 
 namespace MyAccessible {
@@ -27,13 +27,15 @@ struct RowFacts {
 std::wstring RowText(const RowFacts& row);
 
 // The objects that hold the child of object, the outermost first; "parent & children max" + 1 at
-// most, none when that is 0. The last column holds the ancestor's name for child.
+// most, none when that is 0. The last column holds the ancestor's name for child. Those that are
+// not reached before the capture moves on are left out, with a mark in their place; a capture that
+// ends gets them all.
 std::wstring AncestorRows(IAccessible* object, const VARIANT& child,
-                          const settings::Settings& settings);
+                          const settings::Settings& settings, const ListingProgress& progress);
 
 // The children of what child means, "parent & children max" at most, and then a line that says so.
 // The last column holds the value; children that are objects tell their type.
 std::wstring ChildRows(IAccessible* object, const VARIANT& child,
-                       const settings::Settings& settings, const platform::ReadSession& session);
+                       const settings::Settings& settings, const ListingProgress& progress);
 
 }  // namespace MyAccessible

@@ -17,11 +17,17 @@ class ListingProgress {
   // After every item; listed is the number of items so far.
   void Step(std::int32_t listed) const {
     session_.showProgress(std::to_wstring(listed));
-    session_.yield();
+    LetGoOn();
   }
 
+  // After what is not counted.
+  void LetGoOn() const { session_.yield(); }
+
   // Asked before every item.
-  bool Interrupted() const { return session_.target != target_ || !session_.stillRunning(); }
+  bool Interrupted() const { return HasMovedOn() || !session_.stillRunning(); }
+
+  // The capture is on another window.
+  bool HasMovedOn() const { return session_.target != target_; }
 
  private:
   const platform::ReadSession& session_;

@@ -331,13 +331,41 @@ TEST_F(AccessibleReportTest, AncestorsAreAskedForTwice) {
 TEST_F(AccessibleReportTest, OnlyMembersOfTheAncestorsBelowTheLargestNumber) {
   // Parents that go round in a circle.
   window_.parent = &list_;
+  const auto rows = [this] {
+    const platform::ReadSession session = session_.Session();
+    return AncestorRows(&list_, Self(), settings_, ListingProgress(session));
+  };
   settings_.parentChildrenMax = 10;
-  const std::wstring rows = AncestorRows(&list_, Self(), settings_);
-  EXPECT_EQ(std::ranges::count(rows, L'\n'), 11);
+  EXPECT_EQ(std::ranges::count(rows(), L'\n'), 11);
   settings_.parentChildrenMax = 1'000'000'000;
-  EXPECT_EQ(std::ranges::count(AncestorRows(&list_, Self(), settings_), L'\n'), 1000);
+  EXPECT_EQ(std::ranges::count(rows(), L'\n'), 1000);
   settings_.parentChildrenMax = 0;
-  EXPECT_EQ(AncestorRows(&list_, Self(), settings_), L"");
+  EXPECT_EQ(rows(), L"");
+}
+
+TEST_F(AccessibleReportTest, AncestorsAreListedUntilTheCaptureMovesOn) {
+  window_.parent = &list_;
+  settings_.parentChildren = 0;
+  settings_.parentChildrenMax = 1000;
+  session_.moveOnAfter = 2;
+  list_.calls.clear();
+  const std::wstring text = Report(list_, 0);
+  const std::size_t first = text.find(L"Ancestors  : top → bottom\r\n" COLUMNS);
+  ASSERT_NE(first, std::wstring::npos);
+  EXPECT_TRUE(
+      text.substr(first).starts_with(
+          L"Ancestors  : top → bottom\r\n" COLUMNS L"・・・中断・・・\r\n"
+          L"Children   : 3 max=1000\r\n"))
+      << text;
+  // No more than the two before it, although the listing is made twice.
+  EXPECT_EQ(session_.yields, 2);
+}
+
+TEST_F(AccessibleReportTest, ACaptureThatEndsGetsAllAncestors) {
+  settings_.parentChildren = 0;
+  const std::wstring whole = Report(list_, 0);
+  session_.endAfter = session_.yields + 1;
+  EXPECT_EQ(Report(list_, 0), whole);
 }
 
 TEST_F(AccessibleReportTest, NamesInRowsAreCutButForTheLastColumn) {
