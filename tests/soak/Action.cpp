@@ -32,6 +32,7 @@ constexpr Row kWords[] = {
     {Do::kSelectAll, "Ctrl+A"},
     {Do::kActionKey, "Ctrl"},
     {Do::kOpenSettings, "open the settings"},
+    {Do::kMoveSettings, "settings: move to"},
     {Do::kPressInSettings, "settings: press"},
     {Do::kChooseInSettings, "settings: choose in list, entry"},
     {Do::kTypeInSettings, "settings: type into box, number"},

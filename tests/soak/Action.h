@@ -34,6 +34,7 @@ enum class Do {
 
   // The dialogs; a is the number of a control, b the entry of a list or the number to type.
   kOpenSettings,
+  kMoveSettings,  // to a, b, in screen pixels
   kPressInSettings,
   kChooseInSettings,
   kTypeInSettings,

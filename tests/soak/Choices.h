@@ -16,15 +16,20 @@ inline constexpr int kClicked[] = {ui::txthWnd,      ui::txtWin0,      ui::txtWi
 inline constexpr int kDoubleClicked[] = {ui::lblMousePos,  ui::lblMsg,       ui::txthWnd,
                                          ui::txtWinTextT0, ui::txtWinTextB1, ui::txtWin0};
 
-// Not among them: closing by itself, which would end the run.
+// Page after page, each after the button that shows it. Not among them: closing by itself, which
+// would end the run.
 inline constexpr int kPressedSettings[] = {
-    ui::Opt_Clipboard0, ui::Opt_Clipboard1, ui::Opt_Clipboard2,    ui::Opt_Clipboard3,
-    ui::OptHint0,       ui::OptHint1,       ui::chkTreeViewIndent, ui::OptListview0,
-    ui::OptListview1,   ui::OptListview2,   ui::chkDispText,       ui::ChkAccFromhWnd,
-    ui::OptAct0,        ui::OptAct1,        ui::OptAct2,           ui::OptAct3,
-    ui::chkContinue,    ui::chkChime,       ui::chkShift,          ui::chkDispTop,
-    ui::chkToFile,      ui::chkAutoStart,   ui::lblButton0,        ui::lblButton1,
-    ui::lblButton2,     ui::lblButton3};
+    // clang-format off
+    ui::lblButton0,
+    ui::Opt_Clipboard0, ui::Opt_Clipboard1, ui::Opt_Clipboard2, ui::Opt_Clipboard3,
+    ui::OptHint0, ui::OptHint1, ui::chkTreeViewIndent,
+    ui::OptListview0, ui::OptListview1, ui::OptListview2,
+    ui::lblButton1, ui::chkDispText,
+    ui::lblButton2, ui::ChkAccFromhWnd, ui::OptAct0, ui::OptAct1, ui::OptAct2, ui::OptAct3,
+    ui::lblButton3, ui::chkContinue, ui::chkChime, ui::chkShift, ui::chkDispTop, ui::chkToFile,
+    ui::chkAutoStart,
+    // clang-format on
+};
 
 struct ListControl {
   int id;

@@ -22,6 +22,10 @@ constexpr gui::Milliseconds kToBeSeen{60};
 constexpr gui::Milliseconds kPatience{15000};
 constexpr UINT kToAnswer = 20000;
 constexpr UINT kToAnswerOverAHungProgram = 3000;
+constexpr UINT kInItsOwnTime = SWP_NOZORDER | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS;
+constexpr Place kLongNamePlace{40, 40, 400, 300};
+constexpr TargetKind kLongName{"long name", Source::kAccessible, "huge", false};
+constexpr std::size_t kLong = 1'000'000;  // characters
 constexpr char kSettings[] = "frmSetting";
 constexpr char kHotKeys[] = "frmOption";
 
@@ -140,7 +144,7 @@ void Hands::DoInMainWindow(const Action& action) {
     }
     default:
       SetWindowPos(program_.Window().Handle(), nullptr, kMainWindow.left, kMainWindow.top, action.a,
-                   action.b, SWP_NOZORDER | SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS);
+                   action.b, kInItsOwnTime);
       break;
   }
 }
@@ -179,6 +183,10 @@ void Hands::DoInDialog(const Action& action) {
       return OpenDialog(program_.Window(), ui::cmdSetting, kSettings);
     case Do::kOpenHotKeys:
       return OpenDialog(Dialog(kSettings), ui::cmdHotKey, kHotKeys);
+    case Do::kMoveSettings:
+      SetWindowPos(Dialog(kSettings).Handle(), nullptr, action.a, action.b, 0, 0,
+                   kInItsOwnTime | SWP_NOSIZE);
+      break;
     case Do::kPressInSettings:
       return Press(Dialog(kSettings), action.a);
     case Do::kChooseInSettings:
@@ -296,7 +304,7 @@ void Hands::UncheckAll() {
   };
   uncheck(program_.Window(), {ui::chkDetail, ui::chkTurnBack, ui::chkAutoStop});
   OpenDialog(program_.Window(), ui::cmdSetting, kSettings);
-  uncheck(Dialog(kSettings), {ui::chkShift, ui::chkContinue});
+  uncheck(Dialog(kSettings), {ui::chkShift, ui::chkContinue, ui::ChkAccFromhWnd});
   Press(Dialog(kSettings), ui::OptAct0);
   CloseDialog(kSettings, ui::cmdClose);
 }
@@ -313,6 +321,20 @@ void Hands::ReadKnownWindow() {
         return (handle == known.HandleText() || handle == hexadecimal) &&
                program_[ui::txtWin0].Text() == known.ClassName() &&
                program_.TopPane().Text() == known.Text();
+      });
+}
+
+void Hands::StretchBoxes() {
+  const Target target(kLongName, kLongNamePlace);
+  Do({Do::kGo});
+  WaitUntil(
+      "the boxes show the long name",
+      [] {
+        gui::pointer::MoveTo({kLongNamePlace.left + 100, kLongNamePlace.top + 100});
+      },
+      [&] {
+        return program_[ui::txtWin2].TextLength() >= kLong &&
+               program_[ui::txtWin3].TextLength() >= kLong;
       });
 }
 

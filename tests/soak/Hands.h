@@ -38,6 +38,10 @@ class Hands {
   // std::runtime_error when that report is not right.
   void Settle();
 
+  // Has the longest name on this desktop read. The system's boxes keep the room of the longest text
+  // that they ever showed, and what the program holds would depend on when that is.
+  void StretchBoxes();
+
  private:
   void DoWithTarget(const Action& action);
   void DoInMainWindow(const Action& action);

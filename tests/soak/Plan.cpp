@@ -146,6 +146,7 @@ std::optional<Action> Plan::Key() {
 std::optional<Action> Plan::UseSettings() {
   if (Chance(15)) return Action{Do::kCloseSettings};
   if (Chance(15)) return Action{Do::kOpenHotKeys};
+  if (Chance(5)) return Action{Do::kMoveSettings, Below(kScreenWidth), Below(kScreenHeight)};
   if (Chance(20)) {
     const ListControl list = OneOf(kListControls);
     return Action{Do::kChooseInSettings, list.id, Below(list.entries)};
@@ -251,7 +252,10 @@ std::vector<Action> Plan::Tour() {
     for (const int part : {3, 2}) {
       add({Do::kMove, place.left + place.width / part, place.top + place.height / part});
       add({Do::kRest, 150});
+      add({Do::kPress, ui::chkDetail});
     }
+    // Long lines stand in the panes both wrapped and with a bar to scroll along them.
+    add({Do::kPress, ui::chkTurnBack});
   }
 
   add({Do::kHang, 0});
@@ -274,7 +278,9 @@ std::vector<Action> Plan::Tour() {
   add({Do::kResize, kMainWindow.width, kMainWindow.height});
   for (const Action& move : OverTheFrame()) add(move);
 
+  // The settings file may have it at an edge of the screen.
   add({Do::kOpenSettings});
+  add({Do::kMoveSettings, 100, 100});
   for (const int id : kPressedSettings) {
     for (int times = 0; times < 2; ++times) add({Do::kPressInSettings, id});
     add(*Move());

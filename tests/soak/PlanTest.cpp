@@ -102,6 +102,7 @@ TEST(PlanTest, DialogsAreUsedOnlyWhileOpen) {
       case Do::kOpenHotKeys:
         ASSERT_EQ(open++, 1);
         break;
+      case Do::kMoveSettings:
       case Do::kPressInSettings:
       case Do::kChooseInSettings:
       case Do::kTypeInSettings:

@@ -80,6 +80,9 @@ class SoakTest : public gui::GuiTest {
   void LongLife(Plan& plan) {
     gui::Program program({.conf = plan.Settings(false), .folder = folder_});
     Hands hands(program);
+    // So that the tour reads what it points at, whatever the settings file said.
+    hands.Settle();
+    hands.StretchBoxes();
     Carry(hands, plan.Tour());
     hands.Settle();
     servers_ = 0;

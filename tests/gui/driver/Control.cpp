@@ -31,9 +31,12 @@ std::string Control::HandleText() const {
   return std::to_string(reinterpret_cast<INT_PTR>(window_));
 }
 
+std::size_t Control::TextLength() const {
+  return static_cast<std::size_t>(Ask(WM_GETTEXTLENGTH, 0, 0));
+}
+
 std::string Control::Text() const {
-  const auto length = static_cast<std::size_t>(Ask(WM_GETTEXTLENGTH, 0, 0));
-  std::wstring text(length + 1, L'\0');
+  std::wstring text(TextLength() + 1, L'\0');
   const LRESULT copied = Ask(WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
   text.resize(static_cast<std::size_t>(copied));
   return ToUtf8(text);

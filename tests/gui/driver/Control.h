@@ -23,6 +23,7 @@ class Control {
   std::string HandleText() const;
 
   std::string Text() const;
+  std::size_t TextLength() const;  // characters
   std::string ClassName() const;
   RECT Rectangle() const;
   SIZE Size() const;
