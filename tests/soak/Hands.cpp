@@ -26,6 +26,7 @@ constexpr UINT kInItsOwnTime = SWP_NOZORDER | SWP_NOACTIVATE | SWP_ASYNCWINDOWPO
 constexpr Place kLongNamePlace{40, 40, 400, 300};
 constexpr TargetKind kLongName{"long name", Source::kAccessible, "huge", false};
 constexpr std::size_t kLong = 1'000'000;  // characters
+constexpr char kMenu[] = "#32768";
 constexpr char kSettings[] = "frmSetting";
 constexpr char kHotKeys[] = "frmOption";
 
@@ -322,6 +323,21 @@ void Hands::ReadKnownWindow() {
                program_[ui::txtWin0].Text() == known.ClassName() &&
                program_.TopPane().Text() == known.Text();
       });
+}
+
+void Hands::WarmUp() {
+  StretchBoxes();
+  ShowSystemMenu();
+}
+
+void Hands::ShowSystemMenu() {
+  const HWND window = program_.Window().Handle();
+  const auto isOpen = [this] { return FindDialog(kMenu).has_value(); };
+  WaitUntil(
+      "the menu opens", [&] { PostMessageW(window, WM_SYSCOMMAND, SC_KEYMENU, L' '); }, isOpen);
+  WaitUntil(
+      "the menu closes", [&] { PostMessageW(window, WM_CANCELMODE, 0, 0); },
+      [&] { return !isOpen(); });
 }
 
 void Hands::StretchBoxes() {

@@ -38,9 +38,10 @@ class Hands {
   // std::runtime_error when that report is not right.
   void Settle();
 
-  // Has the longest name on this desktop read. The system's boxes keep the room of the longest text
-  // that they ever showed, and what the program holds would depend on when that is.
-  void StretchBoxes();
+  // Has the system load for the program what it loads once and a tour may not meet: the longest
+  // name on this desktop is read, since edit boxes keep the room of the longest text that they
+  // ever showed, and a menu opens, as Shift+F10 has it when a window takes the focus.
+  void WarmUp();
 
  private:
   void DoWithTarget(const Action& action);
@@ -52,6 +53,8 @@ class Hands {
   void StopCapture();
   void UncheckAll();
   void ReadKnownWindow();
+  void StretchBoxes();
+  void ShowSystemMenu();
 
   std::optional<HWND> FindDialog(const char* className) const;
   gui::Control Dialog(const char* className) const;

@@ -82,7 +82,7 @@ class SoakTest : public gui::GuiTest {
     Hands hands(program);
     // So that the tour reads what it points at, whatever the settings file said.
     hands.Settle();
-    hands.StretchBoxes();
+    hands.WarmUp();
     Carry(hands, plan.Tour());
     hands.Settle();
     servers_ = 0;
