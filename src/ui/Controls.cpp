@@ -69,6 +69,10 @@ bool IsFrame(const ControlRow& row) {
   return name == kFrameClass || name == kGroupClass;
 }
 
+void UseFont(HWND control, const platform::UniqueFont& font) {
+  SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), TRUE);
+}
+
 platform::UniqueFont MessageFont(UINT dpi) {
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof metrics;
@@ -78,16 +82,21 @@ platform::UniqueFont MessageFont(UINT dpi) {
 
 }  // namespace
 
-void ControlSet::Create(HWND window, std::span<const ControlRow> rows) {
+void ControlSet::Create(HWND window, std::span<const ControlRow> rows, UINT dpi) {
   RegisterFrameClasses();
   rows_ = rows;
+  font_ = MessageFont(dpi);
+  const TwipsScale scale = ScaleForDpi(dpi);
   for (const ControlRow& row : rows) {
     const HWND parent = row.parent == 0 ? window : windows_.at(row.parent);
     const DWORD exStyle = IsFrame(row) ? WS_EX_CONTROLPARENT : 0;
-    windows_[row.id] =
-        CreateWindowExW(exStyle, row.className, row.caption, row.style | WS_CHILD | WS_CLIPSIBLINGS,
-                        0, 0, 0, 0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)),
-                        GetModuleHandleW(nullptr), nullptr);
+    const RECT place = scale.Pixels(row.place);
+    const HWND control = CreateWindowExW(
+        exStyle, row.className, row.caption, row.style | WS_CHILD | WS_CLIPSIBLINGS, place.left,
+        place.top, place.right - place.left, place.bottom - place.top, parent,
+        reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)), GetModuleHandleW(nullptr), nullptr);
+    UseFont(control, font_);
+    windows_[row.id] = control;
   }
 }
 
@@ -96,22 +105,20 @@ HWND ControlSet::operator[](int id) const {
   return found == windows_.end() ? nullptr : found->second;
 }
 
-void ControlSet::PlaceAll(const TwipsScale& scale) {
-  for (const ControlRow& row : rows_) Place(row.id, row.place, scale);
+void ControlSet::ApplyDpi(UINT dpi) {
+  platform::UniqueFont font = MessageFont(dpi);
+  const TwipsScale scale = ScaleForDpi(dpi);
+  for (const ControlRow& row : rows_) {
+    UseFont((*this)[row.id], font);
+    Place(row.id, row.place, scale);
+  }
+  font_ = std::move(font);
 }
 
 void ControlSet::Place(int id, const TwipsRect& place, const TwipsScale& scale) {
   const RECT pixels = scale.Pixels(place);
   SetWindowPos((*this)[id], nullptr, pixels.left, pixels.top, pixels.right - pixels.left,
                pixels.bottom - pixels.top, SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-void ControlSet::UseMessageFont(UINT dpi) {
-  platform::UniqueFont font = MessageFont(dpi);
-  for (const auto& [id, window] : windows_) {
-    SendMessageW(window, WM_SETFONT, reinterpret_cast<WPARAM>(font.Get()), TRUE);
-  }
-  font_ = std::move(font);
 }
 
 std::wstring WindowText(HWND hwnd) {

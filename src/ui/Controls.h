@@ -30,19 +30,19 @@ struct ControlRow {
 
 class ControlSet {
  public:
-  // Creates every row's control in window. Rows stand in the order of the Tab key; a frame stands
-  // before what it contains.
-  void Create(HWND window, std::span<const ControlRow> rows);
+  // Creates every row's control in window, at its place and in the system's message font, both at
+  // dpi dots per inch. Rows stand in the order of the Tab key; a frame stands before what it
+  // contains.
+  void Create(HWND window, std::span<const ControlRow> rows, UINT dpi);
 
   // The control's window; null for a number that no row has.
   HWND operator[](int id) const;
 
-  // Puts every control where its row says, at this scale.
-  void PlaceAll(const TwipsScale& scale);
+  // Gives every control its place and font at another number of dots per inch.
+  void ApplyDpi(UINT dpi);
+
   void Place(int id, const TwipsRect& place, const TwipsScale& scale);
 
-  // Gives every control the system's message font at dpi dots per inch.
-  void UseMessageFont(UINT dpi);
   HFONT Font() const { return font_.Get(); }
 
  private:

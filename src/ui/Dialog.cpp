@@ -29,10 +29,9 @@ bool Dialog::Open(const DialogPlan& plan) {
   window.place = {plan.corner.x, plan.corner.y, 0, 0};
   if (!Create(window)) return false;
   platform::AddDialog(Handle());
-  controls_.Create(Handle(), plan.rows);
-  const UINT dpi = GetDpiForWindow(Handle());
-  tips_.Create(Handle(), dpi);
-  ApplyDpi(dpi);
+  UseScale(GetDpiForWindow(Handle()));
+  controls_.Create(Handle(), plan.rows, dpi_);
+  tips_.Create(Handle(), dpi_);
   const SIZE size = OuterSize();
   SetWindowPos(Handle(), nullptr, 0, 0, size.cx, size.cy,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -57,7 +56,8 @@ LRESULT Dialog::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     case WM_DPICHANGED: {
       const RECT& suggested = *reinterpret_cast<const RECT*>(lParam);
-      ApplyDpi(LOWORD(wParam));
+      UseScale(LOWORD(wParam));
+      controls_.ApplyDpi(dpi_);
       SetWindowPos(Handle(), nullptr, suggested.left, suggested.top,
                    suggested.right - suggested.left, suggested.bottom - suggested.top,
                    SWP_NOZORDER | SWP_NOACTIVATE);
@@ -92,11 +92,9 @@ RECT Dialog::WorkArea() const {
   return monitor.rcWork;
 }
 
-void Dialog::ApplyDpi(UINT dpi) {
+void Dialog::UseScale(UINT dpi) {
   dpi_ = dpi;
   scale_ = ScaleForDpi(dpi);
-  controls_.UseMessageFont(dpi);
-  controls_.PlaceAll(scale_);
 }
 
 }  // namespace ui

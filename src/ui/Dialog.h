@@ -56,7 +56,7 @@ class Dialog : public Window {
   RECT WorkArea() const;
 
  private:
-  void ApplyDpi(UINT dpi);
+  void UseScale(UINT dpi);
 
   DialogPlan plan_{};
   ControlSet controls_;

@@ -26,11 +26,11 @@ MainWindowFace::MainWindowFace(settings::Settings& settings, capture::CaptureSta
 void MainWindowFace::Create(HWND window) {
   window_ = window;
   RegisterSplitterClass();
-  controls_.Create(window, MainWindowControls());
-  for (const int box : kBoxes) AddEditBehaviour(Control(box), window);
   const UINT dpi = GetDpiForWindow(window);
+  UseScale(dpi);
+  controls_.Create(window, MainWindowControls(), dpi);
+  for (const int box : kBoxes) AddEditBehaviour(Control(box), window);
   tips_.Create(window, dpi);
-  ApplyDpi(dpi);
 }
 
 bool MainWindowFace::IsBox(int id) { return std::ranges::find(kBoxes, id) != std::end(kBoxes); }
@@ -76,12 +76,15 @@ void MainWindowFace::Apply() {
   HideSplitterBar();
 }
 
-void MainWindowFace::ApplyDpi(UINT dpi) {
+void MainWindowFace::UseScale(UINT dpi) {
   scale_ = ScaleForDpi(dpi);
   state_.TwipsPerPixelX = scale_.TwipsPerPixelX;
   state_.TwipsPerPixelY = scale_.TwipsPerPixelY;
-  controls_.UseMessageFont(dpi);
-  controls_.PlaceAll(scale_);
+}
+
+void MainWindowFace::ApplyDpi(UINT dpi) {
+  UseScale(dpi);
+  controls_.ApplyDpi(dpi);
   Form_Resize();
 }
 

@@ -72,6 +72,7 @@ class MainWindowFace {
 
  private:
   std::int32_t InnerWidth() const;  // twips
+  void UseScale(UINT dpi);
   void Apply();
 
   settings::Settings& settings_;
