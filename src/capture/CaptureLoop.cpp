@@ -215,10 +215,10 @@ void CaptureLoop::PollStopKey() {
 void CaptureLoop::PollActionKey(Locals& locals) {
   const auto& [state, settings, view, system] = context_;
   if (settings.actionTest < 1 || !system.IsKeyDown(ActionKey(state))) return;
-  const std::uint32_t now = system.TickCount();
-  if (now - locals.lastActionTick <= kActionMs) return;
-  system.AccAction(settings.actionTest, state.CapturePoint);
-  locals.lastActionTick = now;
+  if (system.TickCount() - locals.lastActionTick <= kActionMs) return;
+  Attempt([&] { system.AccAction(settings.actionTest, state.CapturePoint); });
+  // From its end: the message box of an action may stay open for long.
+  locals.lastActionTick = system.TickCount();
 }
 
 void CaptureLoop::End() {

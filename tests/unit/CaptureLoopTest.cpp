@@ -13,6 +13,7 @@ using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
 using testing::Not;
+using testing::SizeIs;
 
 constexpr std::int32_t kEsc = 27;
 constexpr std::int32_t kCtrl = 17;
@@ -487,6 +488,24 @@ TEST_F(CaptureLoopTest, TheActionKeyActsOnceASecond) {
   EXPECT_THAT(fake_.system.actions, ElementsAre(3, 3, 3));
   EXPECT_EQ(fake_.system.actionTicks[1] - fake_.system.actionTicks[0], 1010U);
   EXPECT_EQ(fake_.system.actionPoint.x, 50);
+}
+
+TEST_F(CaptureLoopTest, TheSecondCountsFromTheEndOfTheAction) {
+  fake_.settings.actionTest = 1;
+  fake_.system.down.insert(kCtrl);
+  // A message box that stays open for a while.
+  fake_.system.onAction = [this] { fake_.system.now += 1500; };
+  Run(110);
+  ASSERT_THAT(fake_.system.actionTicks, SizeIs(2));
+  EXPECT_EQ(fake_.system.actionTicks[1] - fake_.system.actionTicks[0], 2510U);
+}
+
+TEST_F(CaptureLoopTest, AnActionThatFailsIsNotRepeatedInEveryPass) {
+  fake_.settings.actionTest = 1;
+  fake_.system.down.insert(kCtrl);
+  fake_.system.onAction = [] { throw std::runtime_error("the action fails"); };
+  Run(50);
+  EXPECT_THAT(fake_.system.actions, SizeIs(1));
 }
 
 TEST_F(CaptureLoopTest, TheActionKeyNeedsASetting) {

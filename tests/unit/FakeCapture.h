@@ -162,6 +162,7 @@ class FakeSystem : public capture::CaptureSystem {
     actions.push_back(mode);
     actionTicks.push_back(now);
     actionPoint = point;
+    if (onAction) onAction();
   }
 
   std::uint32_t now = 100'000;
@@ -185,6 +186,7 @@ class FakeSystem : public capture::CaptureSystem {
   std::vector<std::int32_t> actions;
   std::vector<std::uint32_t> actionTicks;
   POINT actionPoint{};
+  std::function<void()> onAction;
   bool failing = false;
 
  private:
