@@ -11,8 +11,7 @@ namespace MyAccessible {
 
 class ListingProgress {
  public:
-  explicit ListingProgress(const platform::ReadSession& session)
-      : session_(session), target_(session.target) {}
+  explicit ListingProgress(const platform::ReadSession& session) : session_(session) {}
 
   // After every item; listed is the number of items so far.
   void Step(std::int32_t listed) const {
@@ -27,11 +26,12 @@ class ListingProgress {
   bool Interrupted() const { return HasMovedOn() || !session_.stillRunning(); }
 
   // The capture is on another window.
-  bool HasMovedOn() const { return session_.target != target_; }
+  bool HasMovedOn() const {
+    return session_.target != nullptr && session_.target != session_.window;
+  }
 
  private:
   const platform::ReadSession& session_;
-  const HWND target_;  // when the listing began
 };
 
 }  // namespace MyAccessible

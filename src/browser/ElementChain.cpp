@@ -62,10 +62,9 @@ ElementPtr NextOutward(IHTMLElement* element, FrameTrail& frames, bool& leftFram
 
 void ReadChain(ElementPtr element, FrameTrail frames, std::size_t mostText,
                const platform::ReadSession& session, PageFacts& facts) {
-  const HWND target = session.target;
   bool leftFrame = false;
   for (int i = 0; element && i < kMostLevels; ++i) {
-    if (session.target != target || !session.stillRunning()) {
+    if (session.target != session.window || !session.stillRunning()) {
       facts.interrupted = true;
       break;
     }

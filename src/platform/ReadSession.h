@@ -14,8 +14,8 @@ namespace platform {
 constexpr std::wstring_view kInterrupted = L"・・・中断・・・";
 
 struct ReadSession {
-  // The window that the capture is on. It changes while the reader yields; a reader notes it at
-  // entry and stops when it finds another one.
+  // The window that the capture is on. It changes while the reader yields; a reader stops when it
+  // finds another one than the window that it reads for. Null once no capture runs.
   const HWND& target;
 
   std::function<void(const std::wstring& text)> showProgress;
@@ -25,6 +25,9 @@ struct ReadSession {
 
   // False once the capture shall end.
   std::function<bool()> stillRunning;
+
+  // The window that is read for: the one that the capture was on when the report began.
+  HWND window = target;
 };
 
 }  // namespace platform

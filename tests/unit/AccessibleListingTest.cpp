@@ -28,14 +28,15 @@ class AccessibleListingTest : public testing::Test {
 
   std::wstring Children(Node& root) { return ListChildrenOf(&root, settings_, session_.Session()); }
 
-  std::wstring Tree(Node& root, LONG item) {
+  std::wstring Tree(Node& root, LONG item) { return Tree(root, item, session_.Session()); }
+  std::wstring Tree(Node& root, LONG item, const platform::ReadSession& session) {
     ObjectAndChild start;
     root.AddRef();
     *start.object.GetAddressOf() = &root;
     VARIANT* const child = start.child.Receive();
     child->vt = VT_I4;
     child->lVal = item;
-    return ListTreeAround(start, settings_, session_.Session());
+    return ListTreeAround(start, settings_, session);
   }
 
   settings::Settings settings_;
@@ -133,6 +134,16 @@ TEST_F(AccessibleListingTest, AnotherTargetInterrupts) {
   for (int i = 0; i < 5; ++i) root.AddElement({.name = L"子"});
   session_.moveOnAfter = 2;
   EXPECT_EQ(Children(root), L"子\r\n子\r\n・・・中断・・・");
+}
+
+TEST_F(AccessibleListingTest, ATargetThatMovedBeforeInterruptsAtOnce) {
+  Node root({});
+  for (int i = 0; i < 5; ++i) AddItem(root, L"子", L"0");
+  const platform::ReadSession session = session_.Session();
+  session_.GoElsewhere();
+  EXPECT_EQ(ListChildrenOf(&root, settings_, session), L"・・・中断・・・");
+  EXPECT_EQ(Tree(root, 1, session), L"・・・中断・・・");
+  EXPECT_EQ(session_.yields, 0);
 }
 
 TEST_F(AccessibleListingTest, TheEndOfTheCaptureInterruptsAtAnyDepth) {

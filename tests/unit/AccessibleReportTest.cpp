@@ -364,8 +364,20 @@ TEST_F(AccessibleReportTest, AncestorsAreListedUntilTheCaptureMovesOn) {
 TEST_F(AccessibleReportTest, ACaptureThatEndsGetsAllAncestors) {
   settings_.parentChildren = 0;
   const std::wstring whole = Report(list_, 0);
-  session_.endAfter = session_.yields + 1;
+  session_.onYield = [this] {
+    session_.running = false;
+    session_.target = nullptr;  // as when no capture runs
+  };
   EXPECT_EQ(Report(list_, 0), whole);
+}
+
+TEST_F(AccessibleReportTest, OfAWindowThatWasLeftBeforeNothingIsListed) {
+  session_.onYield = [] { FAIL() << "something was listed"; };
+  const platform::ReadSession session = session_.Session();
+  session_.GoElsewhere();
+  EXPECT_EQ(AncestorRows(&list_, Self(), settings_, ListingProgress(session)),
+            L"・・・中断・・・\r\n");
+  EXPECT_EQ(ChildRows(&list_, Self(), settings_, ListingProgress(session)), L"・・・中断・・・");
 }
 
 TEST_F(AccessibleReportTest, NamesInRowsAreCutButForTheLastColumn) {

@@ -149,6 +149,14 @@ TEST_F(OpenPageTest, StopsWhenThePointerLeavesThePage) {
   EXPECT_EQ(facts.framePath, L"");
 }
 
+TEST_F(OpenPageTest, APageThatThePointerLeftBeforeHasNoRows) {
+  const platform::ReadSession session = session_.Session();
+  session_.GoElsewhere();
+  const PageFacts facts = Open({50, 50})->Facts(session);
+  EXPECT_TRUE(facts.interrupted);
+  EXPECT_THAT(facts.chain, IsEmpty());
+}
+
 TEST_F(OpenPageTest, StopsWhenTheCaptureEnds) {
   session_.endAfter = 1;
   EXPECT_THAT(Tags(Facts({50, 50})), ElementsAre(L"BUTTON"));
