@@ -4,9 +4,10 @@
 
 #include "capture/AutoStopCountdown.h"
 #include "capture/CaptureWords.h"
+#include "capture/PaneCopy.h"
+#include "capture/StopKey.h"
 #include "settings/ConfigText.h"
 #include "settings/MyKeyboard.h"
-#include "settings/MySub_HotKey.h"
 
 namespace capture {
 namespace {
@@ -25,8 +26,6 @@ constexpr std::uint32_t kBeforeHidingMs = 1000;
 constexpr std::uint32_t kAfterHidingMs = 2000;
 
 constexpr std::wstring_view kCapturing = L"取得中・・・・";
-constexpr std::wstring_view kTopCopied = L"上段 クリップボード転送完了";
-constexpr std::wstring_view kBottomCopied = L"下段 クリップボード転送完了";
 
 std::int32_t ActionKey(const CaptureState& state) {
   return settings::LeadingNumber(state.ActionKeyCode);
@@ -85,7 +84,7 @@ void CaptureLoop::Pass(Locals& locals) {
     locals.nowTick = system.TickCount();
     locals.rest.EndPass(*locals.nowTick);
   });
-  Attempt([&] { PollStopKey(); });
+  Attempt([&] { PollStopKey(context_); });
   Attempt([&] { PollActionKey(locals); });
   Attempt([&] { system.Pump(); });
 }
@@ -197,21 +196,6 @@ void CaptureLoop::StopByItself() {
   Attempt([&] { system.Sleep(kAfterHidingMs); });
 }
 
-void CaptureLoop::CopyPane(ViewText pane, const std::wstring& message) {
-  context_.system.PutOnClipboard(context_.view.Text(pane));
-  context_.view.SetText(ViewText::lblMsg, message);
-}
-
-void CaptureLoop::PollStopKey() {
-  auto& [state, settings, view, system] = context_;
-  if (!system.HotKeyPressed(MySub_HotKey::HotKeyCode(settings.hotkey))) return;
-  if (settings.continueCapture == 1) {
-    CopyPane(ViewText::TopPane, std::wstring(kTopCopied));
-  } else {
-    state.CaptureRunning = false;
-  }
-}
-
 void CaptureLoop::PollActionKey(Locals& locals) {
   const auto& [state, settings, view, system] = context_;
   if (settings.actionTest < 1 || !system.IsKeyDown(ActionKey(state))) return;
@@ -232,10 +216,10 @@ void CaptureLoop::End() {
         view.SetText(ViewText::lblMsg, L"クリックでクリップボード転送");
         break;
       case 2:
-        CopyPane(ViewText::TopPane, std::wstring(kTopCopied));
+        CopyTopPane(context_);
         break;
       case 3:
-        CopyPane(ViewText::BottomPane, std::wstring(kBottomCopied));
+        CopyBottomPane(context_);
         break;
       default:
         break;

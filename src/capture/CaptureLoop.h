@@ -44,11 +44,9 @@ class CaptureLoop {
   void ShowTooltipHint(Locals& locals);
   void CountDown(const Locals& locals);
   void StopByItself();
-  void PollStopKey();
   void PollActionKey(Locals& locals);
   bool TargetIsOwnWindow();
   void ClearReport();
-  void CopyPane(ViewText pane, const std::wstring& message);
 
   CaptureContext context_;
   std::function<void()> compose_;

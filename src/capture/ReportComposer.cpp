@@ -7,6 +7,7 @@
 #include "capture/CaptureWords.h"
 #include "capture/ElementTable.h"
 #include "capture/OutputDelivery.h"
+#include "capture/StopKey.h"
 #include "extract/StringUtilities.h"
 
 namespace capture {
@@ -130,16 +131,25 @@ class Report {
     return true;
   }
 
-  platform::ReadSession Session(std::function<void(const std::wstring&)> showProgress) const {
-    return {State().TargetWindow, std::move(showProgress), [this] { context_.system.Pump(); },
-            [this] { return State().CaptureRunning; }};
+  // Between two items: a reading may take minutes, and the pointer, the buttons and the stop key
+  // are served meanwhile.
+  void LetGoOn() const {
+    Attempt([&] { context_.system.Pump(); });
+    Attempt([&] { PollStopKey(context_); });
   }
 
-  void ReadList() const {
+  platform::ReadSession Session(std::function<void(const std::wstring&)> showProgress) const {
+    return {State().TargetWindow, std::move(showProgress), [this] { LetGoOn(); },
+            [this] { return State().CaptureRunning; }, target_};
+  }
+
+  void ReadList() {
     std::wstring text;
     std::wstring method;
-    platform::ReadSession session =
-        Session([this](const std::wstring& progress) { SetText(ViewText::txtCount, progress); });
+    platform::ReadSession session = Session([this](const std::wstring& progress) {
+      count_ = progress;
+      SetText(ViewText::txtCount, progress);
+    });
     Attempt([&] {
       text = ReadByCategory(readers_, category_, {target_, point_, session, method});
     });
@@ -159,14 +169,19 @@ class Report {
 
   void ReadAccessible() const {
     AccessibleTexts texts;
-    // The count that the list's reader showed last stays.
-    const platform::ReadSession session = Session([](const std::wstring&) {});
+    bool counted = false;
+    const platform::ReadSession session = Session([&](const std::wstring& progress) {
+      counted = true;
+      SetText(ViewText::txtCount, progress);
+    });
     Attempt([&] {
       if (!Answers()) return;
       texts = readers_.Accessible(Set().fromHwnd == 1 ? target_ : nullptr, point_, session);
     });
     State().TopTexts[1] = std::move(texts.report);
     SetText(ViewText::txtWin2, texts.name);
+    // The number of the list's items is what is left standing.
+    if (counted) SetText(ViewText::txtCount, count_);
     Redisplay();
   }
 
@@ -186,6 +201,7 @@ class Report {
   const POINT point_;
   WindowFacts window_;
   Category category_ = Category::Other;
+  std::wstring count_;  // what the list's reader showed last
 };
 
 }  // namespace

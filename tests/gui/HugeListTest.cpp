@@ -10,6 +10,7 @@
 
 #include "ListFixture.h"
 #include "driver/GuiTest.h"
+#include "driver/Keys.h"
 #include "driver/Pointer.h"
 #include "driver/Program.h"
 #include "driver/Target.h"
@@ -99,8 +100,23 @@ TEST_F(HugeListTest, LeavesPositionButtonsAndStopKeyAlive) {
   program[ui::chkDetail].PressButton();
   EXPECT_TRUE(WaitFor("the box is checked",
                       [&](std::string&) { return program[ui::chkDetail].IsChecked(); }));
+  program[ui::chkDetail].PressButton();
+  EXPECT_TRUE(WaitFor("the box is empty again",
+                      [&](std::string&) { return !program[ui::chkDetail].IsChecked(); }));
+  keys::Stroke({VK_ESCAPE});
+  EXPECT_TRUE(program[ui::cmdGo].TextBecomes("開始"));
+  // It did not read to the end first.
+  EXPECT_THAT(program.BottomPane().Text(), EndsWith("\r\n・・・中断・・・"));
+}
+
+TEST_F(HugeListTest, EndsWithTheButtonToo) {
+  const Program program;
+  program.MoveWindowTo(820, 20, 420, 460);
+  program.StartCapture();
+  BeginReading(program);
   program[ui::cmdGo].PressButton();
   EXPECT_TRUE(program[ui::cmdGo].TextBecomes("開始"));
+  EXPECT_THAT(program.BottomPane().Text(), EndsWith("\r\n・・・中断・・・"));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <fstream>
 
 #include "driver/GuiTest.h"
+#include "driver/Keys.h"
 #include "driver/Paths.h"
 #include "driver/Pointer.h"
 #include "driver/Program.h"
@@ -20,6 +21,7 @@
 namespace gui {
 namespace {
 
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -249,10 +251,11 @@ TEST_F(LongListTest, LeavesTheStopKeyAliveWhileItIsRead) {
     seen = program[ui::txtCount].Text();
     return !seen.empty();
   }));
-  // The position is shown on, and the button still answers.
+  // The position is shown on, and the key still stops.
   EXPECT_FALSE(program[ui::lblMousePos].Text().empty());
-  program[ui::cmdGo].PressButton();
+  keys::Stroke({VK_ESCAPE});
   EXPECT_TRUE(program[ui::cmdGo].TextBecomes("開始"));
+  EXPECT_THAT(program.BottomPane().Text(), EndsWith("\r\n・・・中断・・・"));
 }
 
 }  // namespace

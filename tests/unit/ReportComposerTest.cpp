@@ -65,7 +65,7 @@ class FakeReaders : public ReportReaders {
   AccessibleTexts Accessible(HWND hwnd, POINT, const platform::ReadSession& session) override {
     Note("accessible");
     session.showProgress(L"9");
-    targetSeen = session.target;
+    if (onAccessible) onAccessible(session);
     accessibleOf = hwnd;
     return {L"MSAA", L"名"};
   }
@@ -91,11 +91,11 @@ class FakeReaders : public ReportReaders {
       {{L"HTML", {}, {}, {}, L"全て"}, {L"P", {}, L"id", {}, L"長い段落"}}};
   std::function<void(const platform::ReadSession&)> onFacts;
   std::function<void(const CategoryRead&)> onRead;
+  std::function<void(const platform::ReadSession&)> onAccessible;
   std::string failing;  // the reader that throws
   POINT askedPoint{};
   HWND listOf = WindowNumber(77);
   HWND accessibleOf = WindowNumber(-1);
-  HWND targetSeen = nullptr;
   HWND statusOf = nullptr;
 
  private:
@@ -234,12 +234,51 @@ TEST_F(ReportComposerTest, ReadersSeeTheTargetMove) {
   EXPECT_EQ(Text(ViewText::txtCount), L"3/7");
 }
 
-TEST_F(ReportComposerTest, TheAccessibleReportSeesTheTargetMoveAndLeavesTheCount) {
-  readers_.onRead = [](const CategoryRead& read) { read.session.showProgress(L"3/7"); };
+TEST_F(ReportComposerTest, TheAccessibleReportKnowsThatTheTargetMovedBeforeIt) {
   fake_.system.onPump = [this] { fake_.state.TargetWindow = WindowNumber(88); };
+  bool asked = false;
+  readers_.onAccessible = [&](const platform::ReadSession& session) {
+    asked = true;
+    EXPECT_EQ(session.target, WindowNumber(88));
+    EXPECT_EQ(session.window, WindowNumber(77));
+  };
   Compose();
-  EXPECT_EQ(readers_.targetSeen, WindowNumber(88));
+  EXPECT_TRUE(asked);
+}
+
+TEST_F(ReportComposerTest, TheAccessibleReportShowsItsProgressAndGivesTheCountBack) {
+  readers_.onRead = [](const CategoryRead& read) { read.session.showProgress(L"3/7"); };
+  readers_.onAccessible = [this](const platform::ReadSession&) {
+    EXPECT_EQ(Text(ViewText::txtCount), L"9");
+  };
+  Compose();
   EXPECT_EQ(Text(ViewText::txtCount), L"3/7");
+}
+
+TEST_F(ReportComposerTest, TheStopKeyStopsBetweenTwoItems) {
+  readers_.onRead = [this](const CategoryRead& read) {
+    read.session.yield();
+    EXPECT_TRUE(read.session.stillRunning());
+    fake_.system.pressed.insert(VK_ESCAPE);
+    read.session.yield();
+    EXPECT_FALSE(read.session.stillRunning());
+  };
+  Compose();
+  EXPECT_FALSE(fake_.state.CaptureRunning);
+  EXPECT_EQ(fake_.system.clipboard, L"(before)");
+}
+
+TEST_F(ReportComposerTest, OrCopiesBetweenTwoItemsAndGoesOn) {
+  fake_.settings.continueCapture = 1;
+  fake_.view.texts[ViewText::TopPane] = L"上の文字";
+  readers_.onRead = [this](const CategoryRead& read) {
+    fake_.system.pressed.insert(VK_ESCAPE);
+    read.session.yield();
+    EXPECT_EQ(fake_.system.clipboard, L"上の文字");
+    EXPECT_EQ(Text(ViewText::lblMsg), L"上段 クリップボード転送完了");
+  };
+  Compose();
+  EXPECT_TRUE(fake_.state.CaptureRunning);
 }
 
 TEST_F(ReportComposerTest, TakesTheTextFromTheHandleWhenAsked) {
