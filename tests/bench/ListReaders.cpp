@@ -187,12 +187,16 @@ std::vector<Pair> MeasureItems(const std::string& kind, int items) {
 
 std::vector<Pair> MeasureRowGrowth(int rows) {
   const std::vector<Pair> chunks = MeasureItems("ownerdata", rows);
-  const std::size_t half = chunks.size() / 2;
+  const std::size_t tenth = chunks.size() / 10;
   std::vector<Pair> pairs;
-  for (std::size_t i = 0; i < half; ++i) {
+  for (std::size_t i = 0; i < tenth; ++i) {
+    Pair whole{};
+    for (std::size_t part = i; part < 10 * tenth; part += tenth) {
+      whole.program += chunks[part].program / 10;
+      whole.yardstick += chunks[part].yardstick / 10;
+    }
     const Pair& first = chunks[i];
-    const Pair& second = chunks[half + i];
-    pairs.push_back({second.program, first.program * second.yardstick / first.yardstick});
+    pairs.push_back({whole.program, first.program * whole.yardstick / first.yardstick});
   }
   return pairs;
 }

@@ -13,8 +13,8 @@ namespace bench {
 // that whatever else the machine does falls on both; each pair is the time for 100 items.
 std::vector<Pair> MeasureItems(const std::string& kind, int items);
 
-// The second half of the rows of a list view against the first half; what the bare loop took longer
-// for the second is taken off. If ten times the rows took 10.5 times as long, this would be 1.055.
+// A row of the whole list view against one of its first tenth; what the bare loop took longer for
+// it is taken off. If ten times the rows took 10.5 times as long, this would be 1.05.
 std::vector<Pair> MeasureRowGrowth(int rows);
 
 }  // namespace bench
