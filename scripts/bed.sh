@@ -7,6 +7,7 @@
 # COMMAND's exit code. For a shell with a screen:  scripts/bed.sh exec bash
 #   --win64    the prefix of a 64-bit Windows, which runs both kinds of program
 #   --cp1252   also a prefix in code page 1252, for scripts/in-cp1252.sh
+#   --beside   also a second desktop of the same kind, for scripts/beside.sh
 #   --desktop  on the user's own display, windows framed by its window manager
 #   --keep     after COMMAND wait for Enter before ending the bed
 #
@@ -49,26 +50,44 @@ start_prefixes() {
     export VELMORA_MANAGED=Y
     WINEPREFIX+=-desktop
   fi
+  local made_beside=
+  if [[ $beside == yes ]]; then
+    export VELMORA_PREFIX_BESIDE=$WINEPREFIX-beside
+    "$root/scripts/prefix.sh" "$VELMORA_PREFIX_BESIDE" &
+    made_beside=$!
+  fi
   "$root/scripts/prefix.sh" "$WINEPREFIX"
+  [[ -z $made_beside ]] || wait "$made_beside"
 }
 
-# The X server picks a free display number itself and writes it down once it can be reached.
+# start_display NAME starts a virtual screen; DISPLAY is then it. The X server picks a free display
+# number itself and writes it down once it can be reached.
 start_display() {
-  local number_file=$bed/display deadline=$((SECONDS + 20))
+  local number_file=$bed/$1 log=$bed/$1.log deadline=$((SECONDS + 20)) xvfb_pid
   rm -f "$number_file"
   # A killed bed takes its X server along.
   setpriv --pdeathsig TERM Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset \
-    3>"$number_file" >"$bed/xvfb.log" 2>&1 </dev/null &
+    3>"$number_file" >"$log" 2>&1 </dev/null &
   xvfb_pid=$!
+  xvfb_pids+=("$xvfb_pid")
   until [[ -s $number_file ]]; do
     if ! kill -0 "$xvfb_pid" 2>/dev/null || ((SECONDS > deadline)); then
-      echo "The virtual display did not start; see $bed/xvfb.log" >&2
+      echo "The virtual display did not start; see $log" >&2
       return 1
     fi
     sleep 0.05
   done
   DISPLAY=:$(<"$number_file")
   export DISPLAY
+}
+
+start_displays() {
+  [[ $desktop == no ]] || return 0
+  if [[ $beside == yes ]]; then
+    start_display display-beside
+    export VELMORA_DISPLAY_BESIDE=$DISPLAY
+  fi
+  start_display display
 }
 
 # A server that stays, and a command interpreter that keeps the desktop in use. Without it the first
@@ -104,16 +123,17 @@ end_bed() {
     kill "$command_pid" 2>/dev/null || true
   fi
   local prefix
-  for prefix in "${WINEPREFIX:-}" "${VELMORA_PREFIX_1252:-}"; do
+  for prefix in "${WINEPREFIX:-}" "${VELMORA_PREFIX_1252:-}" "${VELMORA_PREFIX_BESIDE:-}"; do
     if [[ -n $prefix && -d $prefix ]]; then
       WINEPREFIX=$prefix wineserver -k 2>/dev/null || true
       WINEPREFIX=$prefix wineserver -w 2>/dev/null || true
     fi
   done
-  if [[ -n ${xvfb_pid:-} ]]; then
+  local xvfb_pid
+  for xvfb_pid in "${xvfb_pids[@]}"; do
     kill "$xvfb_pid" 2>/dev/null || true
     wait "$xvfb_pid" 2>/dev/null || true
-  fi
+  done
 }
 
 # Starts the bed, runs the command, leaves the end to the traps.
@@ -123,15 +143,18 @@ serve() {
   trap 'exit 143' TERM HUP
   start_locale
   start_prefixes
-  [[ $desktop == yes ]] || start_display
+  start_displays
+  local other_starts=() other_start
   if [[ $cp1252 == yes ]]; then
     WINEARCH=win32 LC_ALL=C.UTF-8 WINEPREFIX=$VELMORA_PREFIX_1252 start_wine &
-    local other_start=$!
-    start_wine
-    wait "$other_start"
-  else
-    start_wine
+    other_starts+=("$!")
   fi
+  if [[ $beside == yes ]]; then
+    DISPLAY=$VELMORA_DISPLAY_BESIDE WINEPREFIX=$VELMORA_PREFIX_BESIDE start_wine &
+    other_starts+=("$!")
+  fi
+  start_wine
+  for other_start in "${other_starts[@]}"; do wait "$other_start"; done
 
   # In the background, so that a signal ends the bed at once and not only after the command.
   local status=0
@@ -153,11 +176,13 @@ main() {
     [[ ${1:-} == --help ]] && return 0 || return 2
   fi
   shift
-  win64=no cp1252=no desktop=no keep=no
+  win64=no cp1252=no beside=no desktop=no keep=no
+  xvfb_pids=()
   while [[ ${1:-} == --* ]]; do
     case $1 in
       --win64) win64=yes ;;
       --cp1252) cp1252=yes ;;
+      --beside) beside=yes ;;
       --desktop) desktop=yes ;;
       --keep) keep=yes ;;
       --) shift; break ;;
