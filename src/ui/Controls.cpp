@@ -89,12 +89,15 @@ void ControlSet::Create(HWND window, std::span<const ControlRow> rows, UINT dpi)
   const TwipsScale scale = ScaleForDpi(dpi);
   for (const ControlRow& row : rows) {
     const HWND parent = row.parent == 0 ? window : windows_.at(row.parent);
+    // A frame that grows must not erase what was moved into its new part.
+    const DWORD style =
+        row.style | WS_CHILD | WS_CLIPSIBLINGS | (IsFrame(row) ? WS_CLIPCHILDREN : 0);
     const DWORD exStyle = IsFrame(row) ? WS_EX_CONTROLPARENT : 0;
     const RECT place = scale.Pixels(row.place);
     const HWND control = CreateWindowExW(
-        exStyle, row.className, row.caption, row.style | WS_CHILD | WS_CLIPSIBLINGS, place.left,
-        place.top, place.right - place.left, place.bottom - place.top, parent,
-        reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)), GetModuleHandleW(nullptr), nullptr);
+        exStyle, row.className, row.caption, style, place.left, place.top, place.right - place.left,
+        place.bottom - place.top, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)),
+        GetModuleHandleW(nullptr), nullptr);
     UseFont(control, font_);
     windows_[row.id] = control;
   }

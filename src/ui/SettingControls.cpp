@@ -13,7 +13,7 @@ using Text = const wchar_t*;
 using Items = std::span<const Text>;
 
 constexpr DWORD kTabStop = WS_VISIBLE | WS_TABSTOP;
-constexpr DWORD kPage = BS_GROUPBOX | WS_CLIPCHILDREN | WS_GROUP;  // the chosen one is shown
+constexpr DWORD kPage = BS_GROUPBOX | WS_GROUP;  // the chosen one is shown
 constexpr DWORD kGroupBox = WS_VISIBLE | kPage;
 constexpr DWORD kCheck = kTabStop | BS_AUTOCHECKBOX | BS_MULTILINE | BS_TOP;
 constexpr DWORD kLabel = WS_VISIBLE | SS_LEFT | SS_NOPREFIX;
@@ -170,7 +170,7 @@ constexpr SettingControl kControls[] = {
     Label(lblAutoStopNote, FrList3, L"マウス移動が無くなったら、指定秒後に自動停止",
           {150, 1365, 4035, 450}),
     Check(chkShift, FrList3, L"目標位置をシフト", {150, 1860, 4035, 270}, &S::shift),
-    {{frShift, FrList3, kFrameClass, WS_CLIPCHILDREN | WS_GROUP, L"", {420, 2175, 3765, 690}}},
+    {{frShift, FrList3, kFrameClass, WS_GROUP, L"", {420, 2175, 3765, 690}}},
     Label(lblShift0, frShift, L"X軸（右）方向", {0, 45, 1500, 255}),
     NumberBox(txtShift0, frShift, {1530, 30, 780, 255}, &S::shiftx),
     Label(lblShift1, frShift, L"Y軸（下）方向", {0, 390, 1500, 255}),

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "LayoutCheck.h"
 #include "SettingsText.h"
 #include "driver/GuiTest.h"
@@ -47,6 +49,28 @@ TEST_F(LayoutTest, RightPartsFollowTheWindowsWidth) {
     EXPECT_EQ(program.TopPane().Rectangle().right, inner.right);
     EXPECT_EQ(program.BottomPane().Rectangle().right, inner.right);
     EXPECT_EQ(program[ui::fr_Help].Rectangle().bottom, inner.bottom - 5);
+  }
+}
+
+// What a control that moved has left out is seen when everything is drawn anew.
+TEST_F(LayoutTest, EverythingIsDrawnAtANewSize) {
+  const Program program;
+  const auto shown = [&] {
+    Picture last = Picture::Of(InnerArea(program.Window()));
+    Require(WaitFor("the picture stays as it is", [&](std::string&) {
+      SendMessageW(program.Window().Handle(), WM_NULL, 0, 0);
+      Last(Milliseconds(50));
+      const Picture before = std::exchange(last, Picture::Of(InnerArea(program.Window())));
+      return before == last;
+    }));
+    return last;
+  };
+  for (const SIZE size : {SIZE{600, 800}, SIZE{420, 427}, SIZE{700, 300}, SIZE{384, 500}}) {
+    program.MoveWindowTo(50, 50, size.cx, size.cy);
+    const Picture drawn = shown();
+    RedrawWindow(program.Window().Handle(), nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    EXPECT_TRUE(shown() == drawn) << size.cx << " x " << size.cy;
   }
 }
 
