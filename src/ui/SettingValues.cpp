@@ -46,14 +46,15 @@ void PrepareControl(const SettingControl& control, HWND window) {
   }
 }
 
-void ShowSetting(const SettingControl& control, HWND window, const settings::Settings& settings) {
+void ShowSetting(const SettingControl& control, HWND window, settings::Settings& settings) {
   if (control.setting == nullptr) return;
-  const std::int32_t value = settings.*control.setting;
+  std::int32_t& value = settings.*control.setting;
   switch (control.holds) {
     case Holds::Nothing:
       break;
     case Holds::Box:
-      SetBox(window, value == 1 ? 1 : 0);
+      SetBox(window, value);
+      value = BoxValue(window);
       break;
     case Holds::Option:
       SetBox(window, value == control.number ? 1 : 0);

@@ -11,8 +11,8 @@ namespace ui {
 // Fills a drop-down list with its items and gives a box its key filter.
 void PrepareControl(const SettingControl& control, HWND window);
 
-// Shows the setting in its control.
-void ShowSetting(const SettingControl& control, HWND window, const settings::Settings& settings);
+// Shows the setting in its control. A setting in a check box becomes what the box then holds.
+void ShowSetting(const SettingControl& control, HWND window, settings::Settings& settings);
 
 // Whether that notification code tells that the user changed the setting.
 bool TellsChange(const SettingControl& control, int notification);

@@ -73,7 +73,7 @@ bool frmOption::Form_Load() {
     SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
     if (name == settings_.hotkey) SendMessageW(list, CB_SETCURSEL, i, 0);
   }
-  SetBox(Control(chkEnableHotT), settings_.enableHotT == 1 ? 1 : 0);
+  SetBox(Control(chkEnableHotT), settings_.enableHotT);
   return true;
 }
 

@@ -56,6 +56,18 @@ TEST_F(HotKeyDialogTest, FirstButtonStoresBothSettings) {
   EXPECT_EQ(closed_, 1);
 }
 
+TEST_F(HotKeyDialogTest, AnythingButZeroTicksTheBox) {
+  for (const std::int32_t value : {5, -1}) {
+    Open(L"F9", value);
+    EXPECT_EQ(BoxValue(Control(chkEnableHotT)), 1);
+    Click(Control(cmdClose1));
+    EXPECT_EQ(settings_.enableHotT, value);
+    Open(L"F9", value);
+    Click(Control(cmdClose0));
+    EXPECT_EQ(settings_.enableHotT, 1);
+  }
+}
+
 TEST_F(HotKeyDialogTest, EmptyNameCanBeChosen) {
   Open(L"ESC");
   ChooseItem(Control(cmbHotKey), 0);

@@ -55,6 +55,11 @@ class MainWindowTest : public testing::Test {
     return search.found;
   }
 
+  // Whether the control itself is shown, also while its window is not.
+  bool IsShown(int id) const {
+    return (GetWindowLongPtrW(Control(id), GWL_STYLE) & WS_VISIBLE) != 0;
+  }
+
   std::wstring Tip(int id) const {
     HWND tips = nullptr;
     EnumThreadWindows(GetCurrentThreadId(), FindTips, reinterpret_cast<LPARAM>(&tips));
@@ -230,6 +235,18 @@ TEST_F(MainWindowTest, NoPlaceIsTakenWhileTheLayoutIsHeld) {
   face.Form_Resize();
   EXPECT_EQ(face.Geometry(), DesignGeometry());
   EXPECT_EQ(Place(chkAutoStop).right, before.right);
+}
+
+TEST_F(MainWindowTest, AnythingButZeroTicksABox) {
+  Load("turn back = 5\ndetail = -1\nauto stop = 2\n");
+  for (const int id : {chkTurnBack, chkDetail, chkAutoStop}) {
+    EXPECT_EQ(BoxValue(Control(id)), 1) << id;
+  }
+  EXPECT_EQ(settings_.turnBack, 1);
+  EXPECT_EQ(settings_.detail, 1);
+  EXPECT_EQ(settings_.autoStop, 1);
+  EXPECT_TRUE(IsShown(txtWinTextT1));
+  EXPECT_FALSE(IsShown(txtWinTextT0));
 }
 
 TEST_F(MainWindowTest, APaneHoldsAsMuchAsItIsGiven) {

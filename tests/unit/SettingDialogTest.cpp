@@ -116,6 +116,19 @@ TEST_F(SettingDialogTest, CheckBoxesShowTheRecord) {
   for (const BoxCase& box : kBoxes) EXPECT_EQ(BoxValue(Control(box.id)), 1) << box.id;
 }
 
+TEST_F(SettingDialogTest, AnythingButZeroTicksACheckBox) {
+  for (const std::int32_t value : {2, -1}) {
+    for (const BoxCase& box : kBoxes) settings_.*box.setting = value;
+    Open();
+    EXPECT_TRUE(IsShown(frShift));  // as the ticked box says
+    for (const BoxCase& box : kBoxes) {
+      EXPECT_EQ(BoxValue(Control(box.id)), 1) << box.id;
+      EXPECT_EQ(settings_.*box.setting, 1) << box.id;  // what is seen is what is saved
+    }
+    CloseBox();
+  }
+}
+
 struct OptionCase {
   int first;
   int count;
