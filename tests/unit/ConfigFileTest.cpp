@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -162,14 +163,28 @@ TEST_F(ConfigFileTest, ReplacesTheFileAndForgetsUnknownKeys) {
   EXPECT_NE(bytes.find("\r\nhint = 1\r\n"), bytes.npos);
 }
 
-TEST_F(ConfigFileTest, IsWrittenInTheSystemCodePageWithoutAMark) {
-  if (GetACP() != 932) GTEST_SKIP() << "the bytes below are those of code page 932";
+class CodePageConfigTest : public ConfigFileTest {};
+
+TEST_F(CodePageConfigTest, IsWrittenInTheSystemCodePageWithoutAMark) {
+  struct {
+    UINT codePage;
+    const wchar_t* name;
+    const char* bytes;
+  } static constexpr kNames[] = {{932, L"鐘.wav", "\x8F\xE0.wav"},
+                                 {1252, L"été.wav", "\xE9t\xE9.wav"}};
+  const auto* const name = std::ranges::find_if(
+      kNames, [](const auto& candidate) { return candidate.codePage == GetACP(); });
+  ASSERT_NE(name, std::end(kNames)) << "no name for code page " << GetACP();
   LoadConfig(Path(), window_, record_);
-  record_.chimeFile = L"鐘.wav";
+  record_.chimeFile = name->name;
   SaveConfig(Path(), window_, record_);
   const std::string bytes = ReadBytes(Path());
   EXPECT_TRUE(bytes.starts_with("form left = "));
-  EXPECT_NE(bytes.find("chime file = \x8F\xE0.wav\r\n"), bytes.npos);
+  EXPECT_NE(bytes.find("chime file = " + std::string(name->bytes) + "\r\n"), bytes.npos);
+
+  Settings loaded;
+  LoadConfig(Path(), window_, loaded);
+  EXPECT_EQ(loaded.chimeFile, name->name);
 }
 
 TEST_F(ConfigFileTest, AFullDiskKeepsTheLinesWrittenSoFar) {

@@ -5,6 +5,8 @@
 #include <oleacc.h>
 #include <wrl/client.h>
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 
 #include "platform/API_Shell.h"
@@ -39,10 +41,22 @@ TEST(CodePageTest, EmbeddedZeroCharactersStay) {
   EXPECT_EQ(FromAnsi(std::string("a\0b", 3)), text);
 }
 
-TEST(TextCodecTest, JapaneseTakesTwoBytesACharacter) {
-  if (GetACP() != 932) GTEST_SKIP() << "holds in code page 932";
-  EXPECT_EQ(ToAnsi(L"あア漢ｱ"), "\x82\xA0\x83\x41\x8A\xBF\xB1");
-  EXPECT_EQ(FromAnsi("\x82\xA0\x83\x41\x8A\xBF\xB1"), L"あア漢ｱ");
+// Letters with the bytes that they have in that page and in no other.
+struct PageLetters {
+  UINT codePage;
+  const wchar_t* text;
+  const char* bytes;
+};
+constexpr PageLetters kLetters[] = {
+    {932, L"あア漢ｱ", "\x82\xA0\x83\x41\x8A\xBF\xB1"},
+    {1252, L"é€ÿ", "\xE9\x80\xFF"},
+};
+
+TEST(CodePageTest, LettersHaveTheBytesOfTheSystemsPage) {
+  const auto* const letters = std::ranges::find(kLetters, GetACP(), &PageLetters::codePage);
+  ASSERT_NE(letters, std::end(kLetters)) << "no letters for code page " << GetACP();
+  EXPECT_EQ(ToAnsi(letters->text), letters->bytes);
+  EXPECT_EQ(FromAnsi(letters->bytes), letters->text);
 }
 
 TEST(TextCodecTest, NoCharacterIsTornWhereALongTextIsCutIntoPieces) {
