@@ -7,7 +7,9 @@
 #include <commctrl.h>
 
 #include <array>
+#include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -41,11 +43,22 @@ BOOL CALLBACK FindTips(HWND candidate, LPARAM context) {
 
 class MainWindowTest : public testing::Test {
  protected:
+  std::filesystem::path ConfigurationFile() const { return folder_.Path() / "Conf.txt"; }
+
+  void Configure(const std::string& configuration) const {
+    std::ofstream(ConfigurationFile(), std::ios::binary) << configuration;
+  }
+
+  std::string Configuration() const {
+    std::ifstream file(ConfigurationFile(), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+
   void Load(const std::string& configuration, const std::wstring& commandLine = L"") {
-    std::ofstream(folder_.Path() / "Conf.txt", std::ios::binary) << configuration;
+    Configure(configuration);
     window_ = std::make_unique<frmQuorvinFromPoint>(
         settings_, state_,
-        MainWindowPlan{folder_.Path().wstring(), commandLine, [this] { ++ended_; }});
+        MainWindowPlan{folder_.Path().wstring(), commandLine, [this] { EndProgram(); }});
     ASSERT_TRUE(window_->Load());
   }
 
@@ -85,17 +98,37 @@ class MainWindowTest : public testing::Test {
     return place;
   }
 
-  bool ConfigurationWasWritten() const {
-    std::ifstream file(folder_.Path() / "Conf.txt");
-    std::string line;
-    std::getline(file, line);
-    return line.starts_with("form left = ");
+  void Tick(capture::CaptureTimer timer) {
+    SendMessageW(window_->Handle(), WM_TIMER, static_cast<WPARAM>(timer) + 1, 0);
+  }
+
+  // Starts a capture with the button, and stops it with the button in its first pump.
+  void CaptureForAMoment() {
+    const auto button = reinterpret_cast<LPARAM>(Control(cmdGo));
+    PostMessageW(window_->Handle(), WM_COMMAND, MAKEWPARAM(cmdGo, BN_CLICKED), button);
+    SendMessageW(window_->Handle(), WM_COMMAND, MAKEWPARAM(cmdGo, BN_CLICKED), button);
+  }
+
+  bool ConfigurationWasWritten() const { return Configuration().starts_with("form left = "); }
+
+  // Whether the settings were written before the program ended, and never again.
+  bool ConfigurationWasWrittenOnce() {
+    window_.reset();
+    return saved_ && !std::filesystem::exists(ConfigurationFile());
+  }
+
+  // Here the program ends; in a test what follows in its code is still run.
+  void EndProgram() {
+    ++ended_;
+    saved_ = ConfigurationWasWritten();
+    if (saved_) std::filesystem::remove(ConfigurationFile());
   }
 
   TemporaryFolder folder_;
   settings::Settings settings_;
   capture::CaptureState state_;
   int ended_ = 0;
+  bool saved_ = false;
   std::unique_ptr<frmQuorvinFromPoint> window_;
 };
 
@@ -193,7 +226,25 @@ TEST_F(MainWindowTest, ClosingWhileIdleSavesOnceAndEnds) {
   Load("hint = 1\n");
   SendMessageW(window_->Handle(), WM_CLOSE, 0, 0);
   EXPECT_EQ(ended_, 1);
-  EXPECT_TRUE(ConfigurationWasWritten());
+  EXPECT_TRUE(ConfigurationWasWrittenOnce());
+}
+
+TEST_F(MainWindowTest, TheEndTimerSavesOnceAndEnds) {
+  Load("hint = 1\n");
+  Tick(capture::CaptureTimer::Timer_End);
+  EXPECT_EQ(ended_, 1);
+  EXPECT_TRUE(ConfigurationWasWrittenOnce());
+}
+
+TEST_F(MainWindowTest, ACaptureNeitherReadsNorWritesTheSettings) {
+  Load("shiftx = 7\n");
+  const std::string edited = "shiftx = 8\n";
+  Configure(edited);
+  CaptureForAMoment();
+  EXPECT_EQ(state_.RunState, L"");
+  EXPECT_NE(state_.CaptureStartTick, 0U);
+  EXPECT_EQ(settings_.shiftx, 7);
+  EXPECT_EQ(Configuration(), edited);
 }
 
 TEST_F(MainWindowTest, ClosingDuringACaptureEndsWithoutSaving) {
@@ -205,7 +256,7 @@ TEST_F(MainWindowTest, ClosingDuringACaptureEndsWithoutSaving) {
   EXPECT_FALSE(state_.CaptureRunning);
   EXPECT_EQ(state_.RunState, L"Unload");
   EXPECT_TRUE(IsWindow(window_->Handle()));  // the close itself is cancelled
-  EXPECT_FALSE(ConfigurationWasWritten());
+  EXPECT_FALSE(saved_ || ConfigurationWasWritten());
 }
 
 TEST_F(MainWindowTest, TheEndOfTheSessionSavesToo) {
@@ -215,7 +266,7 @@ TEST_F(MainWindowTest, TheEndOfTheSessionSavesToo) {
   EXPECT_EQ(ended_, 0);
   SendMessageW(window_->Handle(), WM_ENDSESSION, TRUE, 0);
   EXPECT_EQ(ended_, 1);
-  EXPECT_TRUE(ConfigurationWasWritten());
+  EXPECT_TRUE(ConfigurationWasWrittenOnce());
 }
 
 TEST_F(MainWindowTest, MinimisingKeepsTheTopHeight) {
