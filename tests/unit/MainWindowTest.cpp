@@ -91,6 +91,10 @@ class MainWindowTest : public testing::Test {
                  reinterpret_cast<LPARAM>(Control(id)));
   }
 
+  bool IsTopmost() const {
+    return (GetWindowLongPtrW(window_->Handle(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+  }
+
   RECT Place(int id) const {
     RECT place{};
     GetWindowRect(Control(id), &place);
@@ -171,10 +175,23 @@ TEST_F(MainWindowTest, ANewDpiScalesEverything) {
 
 TEST_F(MainWindowTest, StaysInFrontWhenTheSettingSaysSo) {
   Load("disp top = 1\n");
-  EXPECT_NE(GetWindowLongW(window_->Handle(), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+  EXPECT_TRUE(IsTopmost());
   window_.reset();
   Load("disp top = 0\n");
-  EXPECT_EQ(GetWindowLongW(window_->Handle(), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
+  EXPECT_FALSE(IsTopmost());
+}
+
+TEST_F(MainWindowTest, ANewSizeLeavesItInFrontOrNot) {
+  Load("disp top = 1\n");
+  SetWindowPos(window_->Handle(), HWND_NOTOPMOST, 0, 0, 0, 0,
+               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  ASSERT_FALSE(IsTopmost());
+  SetWindowPos(window_->Handle(), nullptr, 0, 0, 444, 333,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  RECT inner{};
+  GetClientRect(window_->Handle(), &inner);
+  ASSERT_EQ(Place(chkAutoStop).right, inner.right);  // laid out anew
+  EXPECT_FALSE(IsTopmost());
 }
 
 TEST_F(MainWindowTest, TellsWhatTheButtonDoes) {
