@@ -218,6 +218,18 @@ TEST_F(MainWindowTest, APanesTipCountsItsCharacters) {
   EXPECT_EQ(Tip(txtWinTextT1), kCounts);
 }
 
+TEST_F(MainWindowTest, TextsThatStayAsTheyAreKeepTheirSelection) {
+  Load("");
+  state_.TopTexts[1] = state_.TopTexts[2] = L"same text";
+  state_.BottomTexts[1] = L"one";
+  state_.BottomTexts[2] = L"two";
+  SendMessageW(Control(chkDetail), BM_CLICK, 0, 0);
+  for (const int pane : {txtWinTextT0, txtWinTextB0}) SendMessageW(Control(pane), EM_SETSEL, 1, 3);
+  SendMessageW(Control(chkDetail), BM_CLICK, 0, 0);
+  EXPECT_EQ(SendMessageW(Control(txtWinTextT0), EM_GETSEL, 0, 0), MAKELRESULT(1, 3));
+  EXPECT_EQ(SendMessageW(Control(txtWinTextB0), EM_GETSEL, 0, 0), MAKELRESULT(0, 0));
+}
+
 TEST_F(MainWindowTest, PositionLabelNamesTheOtherModeInItsTip) {
   Load("");
   constexpr std::wstring_view kScreen =
