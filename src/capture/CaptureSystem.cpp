@@ -1,24 +1,16 @@
 #include "capture/CaptureSystem.h"
 
 #include "accessibility/AccessibleAction.h"
+#include "capture/Chime.h"
 #include "extract/ControlText.h"
 #include "extract/Win32API_Window.h"
-#include "platform/API_Shell.h"
 #include "platform/Clipboard.h"
-#include "platform/DiskFile.h"
 #include "platform/MessagePump.h"
 #include "settings/MyKeyboard.h"
 #include "settings/MySub_HotKey.h"
 
 namespace capture {
 namespace {
-
-// The sound file beside the program; else the one that came with Windows.
-std::wstring ChimePath(const std::wstring& file) {
-  const std::wstring own = API_Shell::ProgramFolder() + L"\\" + file;
-  if (platform::IsNormalFile(own)) return own;
-  return API_Shell::FolderPath(API_Shell::kWindowsFolder) + L"\\media\\" + file;
-}
 
 class WindowsCaptureSystem : public CaptureSystem {
  public:
@@ -54,10 +46,8 @@ class WindowsCaptureSystem : public CaptureSystem {
     return platform::PutTextOnClipboard(owner_, text);
   }
   void PlayChime(const std::wstring& file) override {
-    const std::wstring path = ChimePath(file);
-    if (!platform::IsNormalFile(path)) return;
-    API_Shell::PlaySoundFile(path, false);
-    Pump();
+    ChimeCalls calls;
+    capture::PlayChime(file, calls);
   }
   std::wstring TooltipText() override { return extract::GetTooltipText(); }
   void AccAction(std::int32_t mode, POINT point) override {
