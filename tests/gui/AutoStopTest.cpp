@@ -8,6 +8,7 @@
 
 #include "SettingsText.h"
 #include "driver/GuiTest.h"
+#include "driver/Keys.h"
 #include "driver/Pointer.h"
 #include "driver/Program.h"
 #include "driver/Target.h"
@@ -159,6 +160,10 @@ TEST_F(AutoStopTest, StopByHandDoesNotClose) {
   const Program program({.conf = "auto stop = 1\nauto stop time = 60\nauto close = 1\n"});
   program.StartCapture();
   program.StopCapture();
+  program.StartCapture();
+  keys::Stroke({VK_ESCAPE});
+  ASSERT_TRUE(program[ui::cmdGo].TextBecomes("開始"));
+  // Longer than a capture that closes the program shows its window after the stop.
   EXPECT_TRUE(Stays(
       "the program goes on",
       [&](std::string&) { return program.Process().IsRunning() && program.Window().IsVisible(); },

@@ -381,22 +381,20 @@ TEST_F(AutoStopTest, CountsThreeTwoOneAndStops) {
 TEST_F(AutoStopTest, TheRestOfThePassStillRuns) {
   fake_.settings.continueCapture = 1;
   fake_.settings.actionTest = 1;
-  fake_.system.down.insert(kCtrl);
-  fake_.system.onPump = [this] {
-    // Pressed only when the stop has been decided, the keys are still polled.
-    if (!fake_.state.CaptureRunning && !fake_.state.RunState.empty()) {
-      fake_.system.pressed.insert(kEsc);
-    }
+  fake_.settings.clipboard = 4;  // so that the end copies nothing
+  fake_.view.texts[ViewText::TopPane] = L"上の文字";
+  int lastPass = 0;
+  // Pressed when the stop has been decided.
+  fake_.system.onChime = [&] {
+    lastPass = fake_.system.sleeps;
+    fake_.system.pressed.insert(kEsc);
+    fake_.system.down.insert(kCtrl);
   };
-  const auto chimeAsked = [this] { return !fake_.system.chimeFile.empty(); };
-  fake_.system.onSleep = [this] { ASSERT_LT(fake_.system.sleeps, 2000); };
-  fake_.system.actionTicks.clear();
-  loop_.RunCapture();
-  EXPECT_TRUE(chimeAsked());
-  const auto chime = std::ranges::find(fake_.trace, "chime");
-  // After the chime one more pump of the pass, then the end.
-  EXPECT_EQ(*(chime + 1), "pump");
-  EXPECT_GE(fake_.system.actionTicks.back(), fake_.system.now - 1100);
+  RunUntilItStops();
+  EXPECT_EQ(fake_.system.sleeps, lastPass);
+  EXPECT_EQ(fake_.system.clipboard, L"上の文字");
+  EXPECT_EQ(Text(ViewText::lblMsg), L"上段 クリップボード転送完了");
+  EXPECT_THAT(fake_.system.actions, ElementsAre(1));
 }
 
 TEST_F(AutoStopTest, WithoutAChimeItIsSilent) {
@@ -439,21 +437,35 @@ TEST_F(AutoStopTest, IsEmptiedInEveryPassWhenOff) {
 
 TEST_F(AutoStopTest, ClosesTheProgramWhenAsked) {
   fake_.settings.autoClose = 1;
+  fake_.system.onChime = [this] {
+    EXPECT_EQ(Text(ViewText::lblAutoStop), L"");
+    EXPECT_TRUE(fake_.state.CaptureRunning);
+    EXPECT_EQ(fake_.state.RunState, kGo);
+  };
   RunUntilItStops();
   const auto chime = std::ranges::find(fake_.trace, "chime");
   ASSERT_NE(chime, fake_.trace.end());
-  const std::vector<std::string> closing(chime + 1, chime + 4);
-  EXPECT_THAT(closing, ElementsAre("sleep 1000", "hide window", "sleep 2000"));
+  const std::vector<std::string> closing(chime - 2, chime + 4);
+  EXPECT_THAT(closing,
+              ElementsAre("text", "pump", "chime", "sleep 1000", "hide window", "sleep 2000"));
   EXPECT_THAT(fake_.trace, Contains("Timer_End on"));
   EXPECT_EQ(fake_.state.RunState, L"");
 }
 
 TEST_F(AutoStopTest, AStopByHandNeitherChimesNorCloses) {
   fake_.settings.autoClose = 1;
-  Run(100);
-  EXPECT_THAT(fake_.trace, Not(Contains("chime")));
-  EXPECT_THAT(fake_.trace, Not(Contains("hide window")));
-  EXPECT_THAT(fake_.trace, Not(Contains("Timer_End on")));
+  for (const bool byKey : {false, true}) {
+    fake_.system.onSleep = [&, before = fake_.system.sleeps] {
+      ASSERT_LT(fake_.system.sleeps, before + 200) << "does not stop";
+      if (fake_.system.sleeps < before + 100) return;
+      if (byKey) fake_.system.pressed.insert(kEsc);
+      if (!byKey) fake_.state.CaptureRunning = false;
+    };
+    loop_.RunCapture();
+    EXPECT_THAT(fake_.trace, Not(Contains("chime")));
+    EXPECT_THAT(fake_.trace, Not(Contains("hide window")));
+    EXPECT_THAT(fake_.trace, Not(Contains("Timer_End on")));
+  }
 }
 
 // Keys.

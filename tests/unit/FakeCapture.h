@@ -150,6 +150,7 @@ class FakeSystem : public capture::CaptureSystem {
   void PlayChime(const std::wstring& file) override {
     trace_.push_back("chime");
     chimeFile = file;
+    if (onChime) onChime();
     Fail();
   }
   std::wstring TooltipText() override {
@@ -169,6 +170,7 @@ class FakeSystem : public capture::CaptureSystem {
   int sleeps = 0;
   std::function<void()> onSleep;
   std::function<void()> onPump;
+  std::function<void()> onChime;
   POINT cursor{};
   POINT askedAt{};
   HWND windowAtPoint = nullptr;
