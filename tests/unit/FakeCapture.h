@@ -7,6 +7,7 @@
 #include <set>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "capture/CaptureContext.h"
@@ -25,9 +26,9 @@ class FakeView : public capture::CaptureView {
     return found == texts.end() ? std::wstring() : found->second;
   }
   void SetText(capture::ViewText part, const std::wstring& text) override {
-    Note("text");
     texts[part] = text;
     writes[part].push_back(text);
+    Note("text");
   }
   void SetVisible(capture::ViewText part, bool visible) override {
     Note(visible ? "show part" : "hide part");
@@ -71,14 +72,17 @@ class FakeView : public capture::CaptureView {
   int markersShown = 0;
   std::vector<POINT> markersPlaced;
   bool failing = false;
+  std::string failingCall;  // the call that fails alone, as the trace names it
 
  private:
-  void Fail() const {
-    if (failing) throw std::runtime_error("the screen fails");
+  void Fail(std::string_view call = {}) const {
+    if (failing || (!call.empty() && call == failingCall)) {
+      throw std::runtime_error("the screen fails");
+    }
   }
   void Note(const std::string& what) {
     trace_.push_back(what);
-    Fail();
+    Fail(what);
   }
 
   std::vector<std::string>& trace_;
@@ -89,20 +93,21 @@ class FakeSystem : public capture::CaptureSystem {
   explicit FakeSystem(std::vector<std::string>& trace) : trace_(trace) {}
 
   std::uint32_t TickCount() override {
-    Fail();
+    Fail("tick count");
     return now;
   }
   void Sleep(std::uint32_t milliseconds) override {
-    trace_.push_back("sleep " + std::to_string(milliseconds));
+    const std::string call = "sleep " + std::to_string(milliseconds);
+    trace_.push_back(call);
     now += milliseconds;
     ++sleeps;
     if (onSleep) onSleep();
-    Fail();
+    Fail(call);
   }
   void Pump() override {
     trace_.push_back("pump");
     if (onPump) onPump();
-    Fail();
+    Fail("pump");
   }
   POINT CursorPosition() override {
     Fail();
@@ -142,16 +147,16 @@ class FakeSystem : public capture::CaptureSystem {
   }
   void SendSelectAll() override { trace_.push_back("select all"); }
   bool PutOnClipboard(const std::wstring& text) override {
-    Fail();
     clipboard = text;
     trace_.push_back("clipboard");
+    Fail("clipboard");
     return true;
   }
   void PlayChime(const std::wstring& file) override {
     trace_.push_back("chime");
     chimeFile = file;
     if (onChime) onChime();
-    Fail();
+    Fail("chime");
   }
   std::wstring TooltipText() override {
     Fail();
@@ -171,6 +176,7 @@ class FakeSystem : public capture::CaptureSystem {
   std::function<void()> onSleep;
   std::function<void()> onPump;
   std::function<void()> onChime;
+  std::string failingCall;  // the call that fails alone
   POINT cursor{};
   POINT askedAt{};
   HWND windowAtPoint = nullptr;
@@ -192,8 +198,10 @@ class FakeSystem : public capture::CaptureSystem {
   bool failing = false;
 
  private:
-  void Fail() const {
-    if (failing) throw std::runtime_error("the system fails");
+  void Fail(std::string_view call = {}) const {
+    if (failing || (!call.empty() && call == failingCall)) {
+      throw std::runtime_error("the system fails");
+    }
   }
 
   std::vector<std::string>& trace_;
