@@ -226,6 +226,13 @@ TEST_F(CaptureLoopTest, ReportsOnceThePointHasRested) {
   EXPECT_EQ(fake_.state.ReportState, kReported);
 }
 
+TEST_F(CaptureLoopTest, NotesTheTickBeforeTheReport) {
+  compose_ = [this] { fake_.system.now += 5000; };
+  Run(20);
+  EXPECT_EQ(reports_, 1);
+  EXPECT_EQ(fake_.state.LastReportTick, 100'060U);
+}
+
 TEST_F(CaptureLoopTest, ReportsAgainEveryThirtySeconds) {
   Run(6600);
   ASSERT_EQ(reports_, 3);
