@@ -6,6 +6,7 @@
 #include "capture/CaptureWords.h"
 #include "capture/PaneCopy.h"
 #include "capture/StopKey.h"
+#include "capture/TooltipHint.h"
 #include "settings/ConfigText.h"
 #include "settings/MyKeyboard.h"
 
@@ -15,11 +16,6 @@ namespace {
 constexpr std::uint32_t kPassMs = 10;
 constexpr std::uint32_t kMarkerMs = 1000;
 constexpr std::uint32_t kActionMs = 1000;
-
-// A tool tip appears after half a second of rest; later it is old news.
-constexpr std::uint32_t kHintFromMs = 501;
-constexpr std::uint32_t kHintUntilMs = 3000;
-constexpr std::uint32_t kHintMs = 100;
 
 // After the chime the user gets a moment to see the last text, and the sound one to fade.
 constexpr std::uint32_t kBeforeHidingMs = 1000;
@@ -156,10 +152,8 @@ void CaptureLoop::ReportIfDue() {
 void CaptureLoop::ShowTooltipHint(Locals& locals) {
   const auto& [state, settings, view, system] = context_;
   if (settings.hint != 1) return;
-  const std::uint32_t still = locals.rest.StillMs();
-  if (still < kHintFromMs || still >= kHintUntilMs) return;
   const std::uint32_t now = locals.nowTick.value_or(0);
-  if (now - locals.lastHintTick <= kHintMs) return;
+  if (!TooltipIsDue(locals.rest.StillMs(), now, locals.lastHintTick)) return;
   locals.lastHintTick = now;
   const std::wstring text = system.TooltipText();
   if (!text.empty()) view.SetText(ViewText::txtStatus, text);

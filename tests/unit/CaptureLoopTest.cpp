@@ -340,7 +340,7 @@ TEST_F(HintTest, IsShownFromHalfASecondOfRestToThree) {
     before = fake_.system.tooltipsAsked;
   });
   // Rest counts from 100010; 501 ms is first passed at 510, and more than 100 ms lie between two.
-  ASSERT_FALSE(asked.empty());
+  ASSERT_GE(asked.size(), 2U);
   EXPECT_EQ(asked.front(), 100'520U);
   EXPECT_EQ(asked[1], 100'630U);
   EXPECT_LT(asked.back(), 103'010U);
