@@ -93,6 +93,10 @@ TEST_F(TogglesTest, TipOfTheButtonTellsWhatItDoes) {
 TEST_F(TogglesTest, MessageLineTurnsDebugModeOnAndOff) {
   const Program program({.conf = "hotkey = F2\n"});
   const std::string caption = program.Window().Text();
+  program.StartCapture();
+  program.StopCapture();
+  ASSERT_TRUE(program[ui::lblMsg].TextBecomes("テキスト選択"));
+  ASSERT_TRUE(program[ui::lblStatus].TextBecomes("F2で停止"));
   program[ui::lblMsg].DoubleClick();
   EXPECT_TRUE(program.Window().TextBecomes(caption + " - debug"));
   EXPECT_TRUE(program[ui::lblStatus].TextBecomes(""));
