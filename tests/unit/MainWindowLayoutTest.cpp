@@ -72,6 +72,9 @@ TEST(LayoutTest, TheTopPaneIsShrunkOnlyWhenItEndsMoreThan120BelowTheWindow) {
   EXPECT_EQ(fits.g.T.height, 3000);
   EXPECT_EQ(fits.topHeight, 3000);
 
+  const auto over = LayOut(7000, bottom - 121, 3000, kAt96, now);
+  EXPECT_EQ(over.g.T.height, bottom - 121 - now.T.top - 1500);
+
   const std::int32_t SH = bottom - 135;
   const auto shrunk = LayOut(7000, SH, 3000, kAt96, now);
   EXPECT_EQ(shrunk.g.T.height, SH - now.T.top - 1500);
