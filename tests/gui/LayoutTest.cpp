@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+#include <map>
 #include <utility>
 
 #include "LayoutCheck.h"
@@ -76,18 +78,27 @@ TEST_F(LayoutTest, EverythingIsDrawnAtANewSize) {
 
 TEST_F(LayoutTest, UnmovedPartsKeepTheirPlace) {
   const Program program;
-  const auto place = [&](int id) {
+  using Place = std::array<LONG, 4>;  // within the window or frame: left, top, width, height
+  const auto place = [&](int id) -> Place {
     const RECT at = program[id].Rectangle();
-    const RECT inner = InnerArea(program.Window());
-    return std::make_tuple(at.left - inner.left, at.top - inner.top, at.right - at.left,
-                           at.bottom - at.top);
+    const HWND parent = GetAncestor(program[id].Handle(), GA_PARENT);
+    const RECT inner = InnerArea(Control(parent, "parent"));
+    return {at.left - inner.left, at.top - inner.top, at.right - at.left, at.bottom - at.top};
   };
-  const auto go = place(ui::cmdGo);
-  const auto setting = place(ui::cmdSetting);
+  std::map<int, Place> before;
+  for (const int id :
+       {ui::cmdGo, ui::cmdSetting, ui::lblAutoStop, ui::txtWin0, ui::lblMousePos, ui::txthWnd,
+        ui::lblTextKind, ui::txtWin3, ui::txtWin1, ui::Help_Url, ui::MyUrl}) {
+    before[id] = place(id);
+  }
+  const auto corner = [&](int id) { return std::array{place(id)[0], place(id)[1]}; };
+  const auto status = corner(ui::lblStatus);
+  const LONG messageLeft = place(ui::lblMsg)[0];
   program.MoveWindowTo(20, 20, 900, 800);
   ASSERT_TRUE(HeightBecomes(program.Window(), 800));
-  EXPECT_EQ(place(ui::cmdGo), go);
-  EXPECT_EQ(place(ui::cmdSetting), setting);
+  for (const auto& [id, at] : before) EXPECT_EQ(place(id), at) << "control " << id;
+  EXPECT_EQ(corner(ui::lblStatus), status);
+  EXPECT_EQ(place(ui::lblMsg)[0], messageLeft);
 }
 
 TEST_F(LayoutTest, LostHeightOfTheTopPaneDoesNotComeBack) {
