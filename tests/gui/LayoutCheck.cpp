@@ -51,21 +51,21 @@ class Ruler {
     SelectObject(dc_.get(), font_.get());
   }
 
-  SIZE Measure(const std::string& utf8) const {
-    const std::wstring text = ToWide(utf8);
-    SIZE size = {};
-    GetTextExtentPoint32W(dc_.get(), text.c_str(), static_cast<int>(text.size()), &size);
-    return size;
-  }
+  // Of the text in the lines that it has.
+  SIZE Measure(const std::string& utf8) const { return Draw(utf8, 0, 0); }
 
   // Of the text broken into lines of that width.
   SIZE MeasureBroken(const std::string& utf8, LONG width) const {
-    RECT area = {0, 0, width, 0};
-    DrawTextW(dc_.get(), ToWide(utf8).c_str(), -1, &area, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
-    return {area.right, area.bottom};
+    return Draw(utf8, width, DT_WORDBREAK);
   }
 
  private:
+  SIZE Draw(const std::string& utf8, LONG width, UINT how) const {
+    RECT area = {0, 0, width, 0};
+    DrawTextW(dc_.get(), ToWide(utf8).c_str(), -1, &area, DT_CALCRECT | DT_NOPREFIX | how);
+    return {area.right, area.bottom};
+  }
+
   OwnedFont font_;
   OwnedMemoryDc dc_;  // goes first: a font that is still selected cannot be deleted
 };
@@ -80,7 +80,7 @@ std::string LongestUsualText(int id) {
     case ui::lblMsg:
       return "クリックでクリップボード転送";
     case ui::lblStatus:
-      return "ESCで停止";
+      return "Shift+PAUSE/BREAKで停止\r\nCtrl で DoDefAction Test";
     case ui::lblAutoStop:
       return "3";
     default:
