@@ -157,17 +157,22 @@ TEST_F(AutoStopTest, AutoCloseHidesTheWindowThenSavesAndEnds) {
 }
 
 TEST_F(AutoStopTest, StopByHandDoesNotClose) {
-  const Program program({.conf = "auto stop = 1\nauto stop time = 60\nauto close = 1\n"});
-  program.StartCapture();
-  program.StopCapture();
-  program.StartCapture();
-  keys::Stroke({VK_ESCAPE});
-  ASSERT_TRUE(program[ui::cmdGo].TextBecomes("開始"));
-  // Longer than a capture that closes the program shows its window after the stop.
-  EXPECT_TRUE(Stays(
-      "the program goes on",
-      [&](std::string&) { return program.Process().IsRunning() && program.Window().IsVisible(); },
-      Milliseconds(1800)));
+  for (const bool byKey : {false, true}) {
+    const Program program({.conf = "auto stop = 1\nauto stop time = 60\nauto close = 1\n"});
+    program.StartCapture();
+    if (byKey) {
+      keys::Stroke({VK_ESCAPE});
+    } else {
+      program[ui::cmdGo].PressButton();
+    }
+    ASSERT_TRUE(program[ui::cmdGo].TextBecomes("開始"));
+    // Longer than a capture that closes the program shows its window after the stop.
+    EXPECT_TRUE(Stays(
+        "the program goes on",
+        [&](std::string&) { return program.Process().IsRunning() && program.Window().IsVisible(); },
+        Milliseconds(1800)))
+        << (byKey ? "by key" : "by button");
+  }
 }
 
 TEST_F(AutoStopTest, MissingSoundIsPassedOverInSilence) {
