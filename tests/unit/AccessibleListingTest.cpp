@@ -219,6 +219,14 @@ TEST_F(AccessibleListingTest, TreesAreListedFromTheFirstItemOnIndentedByLevel) {
   EXPECT_EQ(tree.References(), 1U);
 }
 
+TEST_F(AccessibleListingTest, LongNamesInTreesAreCutBehindTheirIndent) {
+  Node tree({});
+  AddItem(tree, std::wstring(50, L'全').c_str(), L"0");
+  AddItem(tree, std::wstring(51, L'長').c_str(), L"1");
+  EXPECT_EQ(Tree(tree, 1),
+            std::wstring(50, L'全') + L"\r\n\t" + std::wstring(50, L'長') + L".......\r\n");
+}
+
 TEST_F(AccessibleListingTest, TreesAreSteppedBackTwentyTimesAtMost) {
   Node tree({});
   for (int i = 1; i <= 30; ++i) AddItem(tree, std::to_wstring(i).c_str(), L"0");
