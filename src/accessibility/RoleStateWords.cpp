@@ -4,6 +4,7 @@
 
 #include <oleacc.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <iterator>
 
@@ -77,9 +78,10 @@ constexpr std::wstring_view kRoles[] = {
     L"ROLE_SYSTEM_IPADDRESS_IPアドレス",
 };
 
+constexpr std::wstring_view kRolePrefix = L"ROLE_SYSTEM_";
 constexpr std::size_t kShownPiece = 3;
 
-std::wstring_view Piece(std::wstring_view text, std::size_t index) {
+constexpr std::wstring_view Piece(std::wstring_view text, std::size_t index) {
   for (; index > 0; --index) {
     const std::size_t sign = text.find(L'_');
     if (sign == std::wstring_view::npos) return {};
@@ -87,6 +89,12 @@ std::wstring_view Piece(std::wstring_view text, std::size_t index) {
   }
   return text.substr(0, text.find(L'_'));
 }
+
+// The prefix, the constant's name, "_" and what is shown.
+static_assert(std::ranges::all_of(kRoles, [](std::wstring_view role) {
+  return role.starts_with(kRolePrefix) && std::ranges::count(role, L'_') == kShownPiece &&
+         !Piece(role, kShownPiece - 1).empty() && !Piece(role, kShownPiece).empty();
+}));
 
 struct StateWord {
   std::uint32_t bit;
