@@ -62,8 +62,10 @@ class FakeReaders : public ReportReaders {
     EXPECT_EQ(hwnd, WindowNumber(77));
     return answers;
   }
-  AccessibleTexts Accessible(HWND hwnd, POINT, const platform::ReadSession& session) override {
+  AccessibleTexts Accessible(HWND hwnd, POINT point,
+                             const platform::ReadSession& session) override {
     Note("accessible");
+    accessibleAt = point;
     session.showProgress(L"9");
     if (onAccessible) onAccessible(session);
     accessibleOf = hwnd;
@@ -94,6 +96,8 @@ class FakeReaders : public ReportReaders {
   std::function<void(const platform::ReadSession&)> onAccessible;
   std::string failing;  // the reader that throws
   POINT askedPoint{};
+  POINT listAt{};
+  POINT accessibleAt{};
   HWND listOf = WindowNumber(77);
   HWND accessibleOf = WindowNumber(-1);
   HWND statusOf = nullptr;
@@ -122,6 +126,7 @@ class FakeReaders : public ReportReaders {
   }
   std::wstring Read(const std::string& what, const CategoryRead& read) {
     EXPECT_EQ(read.hwnd, listOf);
+    listAt = read.point;
     if (onRead) onRead(read);
     Note(what);
     return L"一覧";
@@ -310,8 +315,10 @@ TEST_F(ReportComposerTest, WithoutAWindowTheObjectIsThatAtThePoint) {
 
 TEST_F(ReportComposerTest, ElseFromThePoint) {
   Compose();
-  EXPECT_EQ(readers_.askedPoint.x, 300);
-  EXPECT_EQ(readers_.askedPoint.y, 400);
+  for (const POINT& asked : {readers_.askedPoint, readers_.listAt, readers_.accessibleAt}) {
+    EXPECT_EQ(asked.x, 300);
+    EXPECT_EQ(asked.y, 400);
+  }
   EXPECT_EQ(readers_.accessibleOf, nullptr);
 }
 
