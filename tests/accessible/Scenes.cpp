@@ -73,6 +73,17 @@ void BuildObjects(const std::wstring& value, const RECT& place, Scene& scene) {
   }
 }
 
+void BuildRows(const std::wstring& value, const RECT& place, Scene& scene) {
+  scene.windowClass = L"FixtureListView";
+  Node& root = Root(scene, place);
+  const long count = std::wcstol(value.c_str(), nullptr, 10);
+  for (long i = 0; i < count; ++i) {
+    root.AddElement({.name = L"行" + std::to_wstring(i + 1),
+                     .role = ROLE_SYSTEM_LISTITEM,
+                     .place = Inside(place, 0, i * 16, place.right, 16)});
+  }
+}
+
 void BuildCycle(const std::wstring& value, const RECT& place, Scene& scene) {
   BuildFruit(value, place, scene);
   scene.nodes.front().parent = &scene.nodes.back();
@@ -134,10 +145,10 @@ struct SceneWord {
 };
 
 constexpr SceneWord kScenes[] = {
-    {L"fruit", BuildFruit}, {L"tree", BuildTree},       {L"objects", BuildObjects},
-    {L"cycle", BuildCycle}, {L"endless", BuildEndless}, {L"claims", BuildClaims},
-    {L"huge", BuildHuge},   {L"codes", BuildCodes},     {L"overflow", BuildOverflow},
-    {L"dies", BuildDies},
+    {L"fruit", BuildFruit},       {L"tree", BuildTree},   {L"objects", BuildObjects},
+    {L"rows", BuildRows},         {L"cycle", BuildCycle}, {L"endless", BuildEndless},
+    {L"claims", BuildClaims},     {L"huge", BuildHuge},   {L"codes", BuildCodes},
+    {L"overflow", BuildOverflow}, {L"dies", BuildDies},
 };
 
 }  // namespace

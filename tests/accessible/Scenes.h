@@ -21,6 +21,7 @@ struct Scene {
 // fruit         a group with a list of simple elements and a button, all kinds of members
 // tree=N        N items of a tree view, simple elements at the levels 0, 1 and 2
 // objects=N     N items that are objects
+// rows=N        N items of a list view
 // cycle         parents that go round in a circle
 // endless       every child exists and has siblings
 // claims        two thousand million children that do not exist

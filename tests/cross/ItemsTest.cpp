@@ -10,6 +10,7 @@
 
 #include "ListFixture.h"
 #include "Reading.h"
+#include "accessible/FixtureProcess.h"
 #include "driver/Text.h"
 
 namespace cross {
@@ -115,7 +116,15 @@ TEST_P(AccessibleItemsTest, NoMessageIsSentForThem) {
   const ListFixture fixture(TargetBits(), Kind() + "=japanese");
   const Reading reading = Read(Kind(), fixture[Kind()]);
   Tell("japanese", reading);
-  EXPECT_EQ(reading.text, L"accessible");
+  EXPECT_EQ(reading.text, ExpectedText(Kind(), Contents(L"")));
+  EXPECT_EQ(reading.method, L"Accessible");
+}
+
+TEST(AccessibleItems64Test, TheItemsOfTheObjectAreListed) {
+  if (!SystemHas64Bits()) GTEST_SKIP() << "this system runs 32-bit programs only";
+  const accessible::FixtureProcess fixture("place=40,40,300,200 rows=3");
+  const Reading reading = Read("listview", fixture.Window());
+  EXPECT_EQ(reading.text, L"行1\r\n行2\r\n行3\r\n");
   EXPECT_EQ(reading.method, L"Accessible");
 }
 

@@ -1,6 +1,11 @@
+#include <windows.h>
+
 #include <gtest/gtest.h>
+#include <objbase.h>
 
 int main(int count, char** words) {
+  // For accessible objects, as in the program.
+  CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
   testing::InitGoogleTest(&count, words);
   return RUN_ALL_TESTS();
 }

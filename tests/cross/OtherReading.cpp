@@ -112,7 +112,7 @@ std::wstring ListViewItems(HWND control) {
     }
     result += L"\r\n";
   }
-  return any || rows == 0 ? result : L"accessible";
+  return any || rows == 0 ? result : std::wstring();
 }
 
 std::wstring ToolbarTexts(HWND control) {

@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "accessibility/AccessibleListing.h"
 #include "driver/Text.h"
 #include "extract/ListBoxItems.h"
 #include "extract/ListViewItems.h"
@@ -26,7 +27,14 @@ using Reader = std::wstring (*)(HWND, const platform::ReadSession&, std::wstring
 std::wstring ReadListView(HWND hwnd, const platform::ReadSession& session, std::wstring& method,
                           const extract::ControlAccess& access) {
   return extract::GetListViewItem(
-      hwnd, session, method, 0, [](HWND) { return std::wstring(L"accessible"); }, access);
+      hwnd, session, method, 0,
+      [&](HWND list) {
+        settings::Settings settings;
+        settings.parentChildrenMax = 100;
+        settings.accnameMax = 50;
+        return MyAccessible::ListChildren(list, settings, session);
+      },
+      access);
 }
 
 std::wstring Lines(const Contents& contents, std::size_t bytes) {
@@ -63,7 +71,8 @@ std::wstring TableLines(const Contents& contents) {
     }
     text += L"\r\n";
   }
-  return any ? text : L"accessible";
+  // Wine's own list views have an accessible object without children.
+  return any ? text : std::wstring();
 }
 
 struct Kind {
