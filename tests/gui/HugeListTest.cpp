@@ -50,17 +50,27 @@ class HugeListTest : public GuiTest {
 };
 
 TEST_F(HugeListTest, GivesWayToTheNextReportAtOnce) {
-  const Fixture other("static=次 place=600,400,200,200");
+  const Fixture other("static=次 button=前 place=600,400,480,200");
   const Program program;
-  program.MoveWindowTo(820, 20, 420, 460);
+  program.MoveWindowTo(820, 20, 420, 360);
   program.StartCapture();
+  const auto timeToReport = [&](const char* kind, const char* text) {
+    const Control target = other[kind];
+    const auto start = std::chrono::steady_clock::now();
+    pointer::MoveTo(target.Center());
+    EXPECT_TRUE(program[ui::txthWnd].TextBecomes(target.HandleText()));
+    EXPECT_TRUE(program.TopPane().TextBecomes(text));
+    return std::chrono::steady_clock::now() - start;
+  };
+  // The same on an idle program, the slowest of some, so that a busy machine counts on both sides.
+  timeToReport("button", "前");
+  auto usual = std::chrono::steady_clock::duration::zero();
+  for (int i = 0; i < 3; ++i) {
+    usual = std::max(usual, timeToReport("static", "次"));
+    usual = std::max(usual, timeToReport("button", "前"));
+  }
   BeginReading(program);
-  const Control next = other["static"];
-  const auto start = std::chrono::steady_clock::now();
-  pointer::MoveTo(next.Center());
-  EXPECT_TRUE(program[ui::txthWnd].TextBecomes(next.HandleText()));
-  EXPECT_TRUE(program.TopPane().TextBecomes("次"));
-  EXPECT_LT(std::chrono::steady_clock::now() - start, Milliseconds(3000));
+  EXPECT_LT(timeToReport("static", "次"), 2 * usual);
 }
 
 TEST_F(HugeListTest, KeepsTheRowsThatWereReadAndMarksTheEnd) {
