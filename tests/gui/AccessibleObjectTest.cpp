@@ -96,6 +96,27 @@ TEST_F(AccessibleObjectTest, FromTheWindowTheReportNamesIt) {
                                     "Children 　: 取得最大個数は０になっています"));
 }
 
+// The pointer itself stands over the desktop.
+TEST_F(AccessibleObjectTest, WithAShiftReportAndTreeAreThoseOfTheShiftedPoint) {
+  const FixtureProcess fruit(kFruit);
+  const FixtureProcess tree("place=40,400,300,200 tree=5");
+  const Program program({.conf = "detail = 1\nshift = 1\nshiftx = -450\nshifty = -30\n"});
+  program.MoveWindowTo(860, 20, 400, 700);
+  program.StartCapture();
+  const auto readAt = [](POINT point) { pointer::MoveTo({point.x + 450, point.y + 30}); };
+  readAt(kApple);
+  EXPECT_TRUE(WaitFor("the report is that of the apple", [&](std::string& seen) {
+    seen = program.TopPane().Text();
+    return seen.find("Name       : 林檎\r\n") != std::string::npos;
+  }));
+  EXPECT_TRUE(program[ui::txtWin2].TextBecomes("林檎"));
+  program[ui::chkDetail].PressButton();
+  readAt({150, 400 + 2 * 16 + 8});
+  EXPECT_TRUE(
+      program.BottomPane().TextBecomes("項目1\r\n\t項目2\r\n\t\t項目3\r\n項目4\r\n\t項目5\r\n"));
+  EXPECT_TRUE(program.TopPane().TextBecomes("項目3"));
+}
+
 TEST_F(AccessibleObjectTest, ChildrenOfUnknownWindowsAreListed) {
   const FixtureProcess fixture(kFruit);
   const Program program;
