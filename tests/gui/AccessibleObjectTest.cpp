@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "DialogWindow.h"
 #include "accessible/FixtureProcess.h"
 #include "driver/GuiTest.h"
 #include "driver/Keys.h"
@@ -14,6 +15,7 @@
 #include "driver/Screen.h"
 #include "driver/Target.h"
 #include "driver/Text.h"
+#include "platform/ErrorReport.h"
 #include "ui/ControlIds.h"
 
 namespace gui {
@@ -197,6 +199,37 @@ TEST_F(AccessibleObjectTest, WithoutAnActionTestTheKeyDoesNothing) {
   ASSERT_TRUE(program.TopPane().TextBecomes("追加"));
   keys::Stroke({VK_CONTROL}, Milliseconds(500));
   EXPECT_EQ(fixture.Actions(), "");
+}
+
+// The objects of Wine's own controls have no actions.
+TEST_F(AccessibleObjectTest, AFailedActionIsToldInABoxWithAnOkButton) {
+  const WineProgram notepad("notepad.exe", "", "Notepad");
+  notepad.MoveTo(30, 30, 560, 420);
+  const FixtureProcess fruit("place=40,500,400,300 fruit");
+  const Program program({.conf = "action test = 1\n"});
+  program.MoveWindowTo(640, 20, 600, 700);
+  program.StartCapture();
+  const Control edit = notepad.Inside("Edit");
+  pointer::MoveTo(edit.Center());
+  ASSERT_TRUE(program[ui::txthWnd].TextBecomes(edit.HandleText()));
+  keys::Stroke({VK_CONTROL});
+  {
+    const DialogWindow box(program, kMessageBoxClass);
+    EXPECT_EQ(box.Window().Text(), "AccAction - accDoDefaultAction");
+    std::string text;
+    std::string buttons;
+    for (HWND window : Descendants(box.Window().Handle())) {
+      const Control part(window, "a part of the box");
+      if (part.IsVisible()) (part.ClassName() == "Button" ? buttons : text) += part.Text();
+    }
+    EXPECT_EQ(text, "-2147467263 " + ToUtf8(platform::SystemDescription(E_NOTIMPL)));
+    EXPECT_EQ(buttons, "OK");
+    box.Close();
+    EXPECT_TRUE(box.Closes());
+  }
+  pointer::MoveTo({150, 530});
+  EXPECT_TRUE(program.TopPane().TextBecomes("林檎"));
+  EXPECT_TRUE(program.IsCapturing());
 }
 
 TEST_F(AccessibleObjectTest, HostileObjectsDoNotEndTheCapture) {
