@@ -275,6 +275,21 @@ TEST_F(AcrossProcessesTest, MembersMayFailWithAnyCode) {
   EXPECT_THAT(boxes_, IsEmpty());
 }
 
+TEST_F(AcrossProcessesTest, WithoutARoleItIsNoAccessibleObject) {
+  const FixtureProcess fixture("place=200,100,400,300 roleless");
+  EXPECT_EQ(ReportAt({300, 200}),
+            HEADING
+            L"\r\n"
+            L" %% Not MSAA %%\r\n"
+            L"\r\n"
+            L"Ancestors  : \r\n"
+            L"\r\n"
+            L"GetParentObject failed\r\n"
+            L"\r\n");
+  EXPECT_EQ(record_.name, L"果物の窓");
+  EXPECT_THAT(boxes_, IsEmpty());
+}
+
 TEST_F(AcrossProcessesTest, AnEdgeBeyond32BitsEndsTheReport) {
   const FixtureProcess fixture("overflow");
   EXPECT_TRUE(ReportOf(fixture).ends_with(L"KbShortCut : \r\n"));

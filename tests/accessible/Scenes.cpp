@@ -121,6 +121,10 @@ void BuildCodes(const std::wstring&, const RECT& place, Scene& scene) {
                    {"accLocation", E_ABORT}};
 }
 
+void BuildRoleless(const std::wstring&, const RECT& place, Scene& scene) {
+  Root(scene, place).failures = {{"accRole", E_FAIL}};
+}
+
 void BuildOverflow(const std::wstring&, const RECT& place, Scene& scene) {
   Root(scene, place).Own().place = {2'147'483'647, place.top, 1, place.bottom};
 }
@@ -145,10 +149,10 @@ struct SceneWord {
 };
 
 constexpr SceneWord kScenes[] = {
-    {L"fruit", BuildFruit},       {L"tree", BuildTree},   {L"objects", BuildObjects},
-    {L"rows", BuildRows},         {L"cycle", BuildCycle}, {L"endless", BuildEndless},
-    {L"claims", BuildClaims},     {L"huge", BuildHuge},   {L"codes", BuildCodes},
-    {L"overflow", BuildOverflow}, {L"dies", BuildDies},
+    {L"fruit", BuildFruit},       {L"tree", BuildTree},         {L"objects", BuildObjects},
+    {L"rows", BuildRows},         {L"cycle", BuildCycle},       {L"endless", BuildEndless},
+    {L"claims", BuildClaims},     {L"huge", BuildHuge},         {L"codes", BuildCodes},
+    {L"roleless", BuildRoleless}, {L"overflow", BuildOverflow}, {L"dies", BuildDies},
 };
 
 }  // namespace

@@ -27,6 +27,7 @@ struct Scene {
 // claims        two thousand million children that do not exist
 // huge          a name of five million characters
 // codes         members that fail, each with a code of its own
+// roleless      a role that cannot be read
 // overflow      a right edge beyond 32 bits
 // dies          the process ends in the middle of the third name
 bool BuildScene(const std::wstring& word, const std::wstring& value, const RECT& place,

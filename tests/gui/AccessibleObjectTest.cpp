@@ -232,10 +232,32 @@ TEST_F(AccessibleObjectTest, AFailedActionIsToldInABoxWithAnOkButton) {
   EXPECT_TRUE(program.IsCapturing());
 }
 
+TEST_F(AccessibleObjectTest, AnEdgeBeyond32BitsIsToldInABoxAndTheCaptureGoesOn) {
+  const FixtureProcess overflow("place=40,40,200,300 overflow");
+  const FixtureProcess fruit("place=260,40,200,300 fruit");
+  const Program program({.conf = "detail = 1\n"});
+  program.MoveWindowTo(640, 20, 600, 700);
+  program.StartCapture();
+  pointer::MoveTo({100, 115});
+  {
+    const DialogWindow box(program, kMessageBoxClass);
+    EXPECT_EQ(box.Window().Text(), "GetAccessibleMemberFromPoint");
+    box.Close();
+    EXPECT_TRUE(box.Closes());
+  }
+  EXPECT_TRUE(WaitFor("the report ends with it", [&](std::string& seen) {
+    seen = program.TopPane().Text();
+    return seen.ends_with("KbShortCut : \r\n");
+  }));
+  pointer::MoveTo({300, 70});
+  EXPECT_TRUE(program[ui::txtWin2].TextBecomes("林檎"));
+  EXPECT_TRUE(program.IsCapturing());
+}
+
 TEST_F(AccessibleObjectTest, HostileObjectsDoNotEndTheCapture) {
   const Program program({.conf = "detail = 1\n"});
   program.StartCapture();
-  for (const char* const scene : {"cycle", "claims", "huge", "codes", "dies"}) {
+  for (const char* const scene : {"cycle", "claims", "huge", "codes", "roleless", "dies"}) {
     {
       const FixtureProcess hostile(std::string("place=40,40,200,300 ") + scene);
       pointer::MoveTo({100, 115});
