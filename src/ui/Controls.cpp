@@ -120,8 +120,9 @@ void ControlSet::ApplyDpi(UINT dpi) {
 
 void ControlSet::Place(int id, const TwipsRect& place, const TwipsScale& scale) {
   const RECT pixels = scale.Pixels(place);
+  // Drawn anew: what was not drawn yet when it was moved would be moved with it for good.
   SetWindowPos((*this)[id], nullptr, pixels.left, pixels.top, pixels.right - pixels.left,
-               pixels.bottom - pixels.top, SWP_NOZORDER | SWP_NOACTIVATE);
+               pixels.bottom - pixels.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
 }
 
 std::wstring WindowText(HWND hwnd) {

@@ -29,8 +29,8 @@ constexpr const wchar_t* kButtonClass = L"BUTTON";
 // Twips. The band above the top pane is three rows high, each with a control at the right edge;
 // it is kept low, since the window may be as low as 3150.
 constexpr ControlRow kRows[] = {
-    {cmdGo, 0, kButtonClass, kButton, L"開始", {30, 30, 735, 345}},
-    {cmdSetting, 0, kButtonClass, kButton, L"設定", {30, 390, 735, 345}},
+    {cmdGo, 0, kButtonClass, kButton, L"開始", {30, 30, 690, 345}},
+    {cmdSetting, 0, kButtonClass, kButton, L"設定", {30, 390, 690, 345}},
     {lblAutoStop, 0, kStatic, kLabel | SS_CENTER, L"", {780, 15, 225, 225}},
     {txtWin0, 0, kEdit, kBox, L"", {1020, 0, 2160, 255}},
     {chkAutoStop, 0, kButtonClass, kCheckBox, L"自動停止", {4500, 0, 1140, 240}},

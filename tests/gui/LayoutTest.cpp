@@ -54,10 +54,11 @@ TEST_F(LayoutTest, RightPartsFollowTheWindowsWidth) {
   }
 }
 
-// What a control that moved has left out is seen when everything is drawn anew.
-TEST_F(LayoutTest, EverythingIsDrawnAtANewSize) {
-  const Program program;
-  const auto shown = [&] {
+// What was left out, or was left behind, is seen when everything is drawn anew.
+class DrawingTest : public LayoutTest {
+ protected:
+  // The window's inside, once it stays as it is.
+  static Picture Shown(const Program& program) {
     Picture last = Picture::Of(InnerArea(program.Window()));
     Require(WaitFor("the picture stays as it is", [&](std::string&) {
       SendMessageW(program.Window().Handle(), WM_NULL, 0, 0);
@@ -66,13 +67,29 @@ TEST_F(LayoutTest, EverythingIsDrawnAtANewSize) {
       return before == last;
     }));
     return last;
-  };
-  for (const SIZE size : {SIZE{600, 800}, SIZE{420, 427}, SIZE{700, 300}, SIZE{384, 500}}) {
-    program.MoveWindowTo(50, 50, size.cx, size.cy);
-    const Picture drawn = shown();
+  }
+  static bool IsDrawnWhole(const Program& program) {
+    const Picture drawn = Shown(program);
     RedrawWindow(program.Window().Handle(), nullptr, nullptr,
                  RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-    EXPECT_TRUE(shown() == drawn) << size.cx << " x " << size.cy;
+    return Shown(program) == drawn;
+  }
+};
+
+TEST_F(DrawingTest, EverythingIsThereAtTheStart) {
+  for (const int right : {400, 470, 520, 900}) {
+    const Program program(
+        {.conf = "form left = 50\nform top = 50\nform bottom = 700\nform right = " +
+                 std::to_string(right) + "\n"});
+    EXPECT_TRUE(IsDrawnWhole(program)) << right;
+  }
+}
+
+TEST_F(DrawingTest, EverythingIsThereAtANewSize) {
+  const Program program;
+  for (const SIZE size : {SIZE{600, 800}, SIZE{420, 427}, SIZE{700, 300}, SIZE{384, 500}}) {
+    program.MoveWindowTo(50, 50, size.cx, size.cy);
+    EXPECT_TRUE(IsDrawnWhole(program)) << size.cx << " x " << size.cy;
   }
 }
 
