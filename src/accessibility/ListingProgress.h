@@ -23,12 +23,10 @@ class ListingProgress {
   void LetGoOn() const { session_.yield(); }
 
   // Asked before every item.
-  bool Interrupted() const { return HasMovedOn() || !session_.stillRunning(); }
+  bool Interrupted() const { return session_.Interrupted(); }
 
   // The capture is on another window.
-  bool HasMovedOn() const {
-    return session_.target != nullptr && session_.target != session_.window;
-  }
+  bool HasMovedOn() const { return session_.HasMovedOn(); }
 
  private:
   const platform::ReadSession& session_;

@@ -64,7 +64,7 @@ void ReadChain(ElementPtr element, FrameTrail frames, std::size_t mostText,
                const platform::ReadSession& session, PageFacts& facts) {
   bool leftFrame = false;
   for (int i = 0; element && i < kMostLevels; ++i) {
-    if (session.target != session.window || !session.stillRunning()) {
+    if (session.Interrupted()) {
       facts.interrupted = true;
       break;
     }

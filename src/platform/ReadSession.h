@@ -28,6 +28,12 @@ struct ReadSession {
 
   // The window that is read for: the one that the capture was on when the report began.
   HWND window = target;
+
+  // The capture is on another window. One that has ended is on none.
+  bool HasMovedOn() const { return target != nullptr && target != window; }
+
+  // The reading shall end.
+  bool Interrupted() const { return HasMovedOn() || !stillRunning(); }
 };
 
 }  // namespace platform
