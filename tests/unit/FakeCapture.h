@@ -16,7 +16,19 @@ inline HWND WindowNumber(int number) {
   return reinterpret_cast<HWND>(static_cast<INT_PTR>(number));
 }
 
-class FakeView : public capture::CaptureView {
+// What can be told to fail.
+class Failing {
+ public:
+  bool failing = false;     // every call
+  std::string failingCall;  // the call that fails alone, as the trace names it
+
+ protected:
+  void Fail(std::string_view call = {}) const {
+    if (failing || (!call.empty() && call == failingCall)) throw std::runtime_error("it fails");
+  }
+};
+
+class FakeView : public capture::CaptureView, public Failing {
  public:
   explicit FakeView(std::vector<std::string>& trace) : trace_(trace) {}
 
@@ -71,15 +83,8 @@ class FakeView : public capture::CaptureView {
   std::wstring goTip;
   int markersShown = 0;
   std::vector<POINT> markersPlaced;
-  bool failing = false;
-  std::string failingCall;  // the call that fails alone, as the trace names it
 
  private:
-  void Fail(std::string_view call = {}) const {
-    if (failing || (!call.empty() && call == failingCall)) {
-      throw std::runtime_error("the screen fails");
-    }
-  }
   void Note(const std::string& what) {
     trace_.push_back(what);
     Fail(what);
@@ -88,7 +93,7 @@ class FakeView : public capture::CaptureView {
   std::vector<std::string>& trace_;
 };
 
-class FakeSystem : public capture::CaptureSystem {
+class FakeSystem : public capture::CaptureSystem, public Failing {
  public:
   explicit FakeSystem(std::vector<std::string>& trace) : trace_(trace) {}
 
@@ -176,7 +181,6 @@ class FakeSystem : public capture::CaptureSystem {
   std::function<void()> onSleep;
   std::function<void()> onPump;
   std::function<void()> onChime;
-  std::string failingCall;  // the call that fails alone
   POINT cursor{};
   POINT askedAt{};
   HWND windowAtPoint = nullptr;
@@ -195,15 +199,8 @@ class FakeSystem : public capture::CaptureSystem {
   std::vector<std::uint32_t> actionTicks;
   POINT actionPoint{};
   std::function<void()> onAction;
-  bool failing = false;
 
  private:
-  void Fail(std::string_view call = {}) const {
-    if (failing || (!call.empty() && call == failingCall)) {
-      throw std::runtime_error("the system fails");
-    }
-  }
-
   std::vector<std::string>& trace_;
 };
 
