@@ -1,7 +1,7 @@
-# The zip that is handed out: one folder with the program, its help and a readme. All names in it
-# are ASCII, so that they come out right whatever unpacks it.
+# The zip for users: one folder with the program, its help and a readme. All names in it
+# are ASCII, so that every program unpacks them correctly.
 
-# Notepad takes a text for UTF-8 by this mark, and before Windows 10 1809 showed no bare line feeds.
+# Notepad recognises UTF-8 by this mark, and before Windows 10 1809 showed no bare line feeds.
 string(ASCII 239 187 191 BYTE_ORDER_MARK)
 set(VELMORA_README ${PROJECT_BINARY_DIR}/package/Readme.txt)
 configure_file(resources/Readme.txt.in ${VELMORA_README} @ONLY NEWLINE_STYLE CRLF)

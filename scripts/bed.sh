@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# The test bed: a Japanese Windows (Wine in code page 932) with a virtual screen of its own.
+# The test bed: a Japanese Windows (Wine in code page 932) with its own virtual screen.
 #
 #   scripts/bed.sh exec [OPTION…] [--] COMMAND [ARGUMENT…]
 #
-# starts the bed, runs COMMAND in it, ends everything that belongs to the bed, and gives back
+# starts the bed, runs COMMAND in it, ends everything that belongs to the bed, and returns
 # COMMAND's exit code. For a shell with a screen:  scripts/bed.sh exec bash
 #   --win64    the prefix of a 64-bit Windows, which runs both kinds of program
 #   --cp1252   also a prefix in code page 1252, for scripts/in-cp1252.sh
@@ -13,8 +13,8 @@
 #
 # COMMAND finds DISPLAY (1280x1024), WINEPREFIX, LC_ALL and LOCPATH set.
 #
-# The bed lies in build/bed, or in the folder that VELMORA_BED names. One bed serves one command
-# at a time, a second one waits; with another VELMORA_BED both run side by side.
+# The bed is in build/bed, or in the folder that VELMORA_BED names. One bed runs one command at a
+# time, a second one waits; with another VELMORA_BED both run at the same time.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -65,7 +65,7 @@ start_prefixes() {
 start_display() {
   local number_file=$bed/$1 log=$bed/$1.log deadline=$((SECONDS + 20)) xvfb_pid
   rm -f "$number_file"
-  # A killed bed takes its X server along.
+  # When the bed is killed, its X server ends too.
   setpriv --pdeathsig TERM Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset \
     3>"$number_file" >"$log" 2>&1 </dev/null &
   xvfb_pid=$!
@@ -92,12 +92,12 @@ start_displays() {
 
 # A server that stays, and a command interpreter that keeps the desktop in use. Without it the first
 # program with a window would start the desktop's own process, which keeps that program's error
-# output open for as long as the desktop is used: the program would never be seen to end by whoever
-# reads its output. The interpreter's input is a pipe that it can write itself, so it has no end.
+# output open for as long as the desktop is used: the program would never seem to end for a
+# reader of its output. The interpreter's input is a pipe that it can write itself, so it has no end.
 start_wine() {
   local ready=$WINEPREFIX/desktop-ready attempt deadline
-  # On a busy machine the first program of a server now and then waits for ever; the next server
-  # is as good.
+  # On a busy machine the first program of a server sometimes waits forever; then another server is
+  # started.
   for attempt in 1 2 3; do
     rm -f "$ready"
     wineserver -k 2>/dev/null || true
@@ -136,7 +136,7 @@ end_bed() {
   done
 }
 
-# Starts the bed, runs the command, leaves the end to the traps.
+# Starts the bed and runs the command; the traps end the bed.
 serve() {
   trap end_bed EXIT
   trap 'exit 130' INT
@@ -198,7 +198,7 @@ main() {
     echo "Waiting for the bed in $bed, which another command uses."
     flock 9
   fi
-  # The lock is this script's alone: a server that outlives a killed bed must not hold it.
+  # Only this script holds the lock: a server that outlives a killed bed must not hold it.
   serve "$@" 9>&-
 }
 

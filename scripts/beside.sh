@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs a Windows program on the second desktop of a bed that was started with --beside: with a
-# screen, a pointer, a keyboard, a clipboard and a Wine of its own.
+# Runs a Windows program on the second desktop of a bed that was started with --beside: with its
+# own screen, pointer, keyboard, clipboard and Wine.
 #
 #   scripts/beside.sh PROGRAM [ARGUMENT…]
 set -euo pipefail

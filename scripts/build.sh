@@ -3,14 +3,14 @@
 #
 #   scripts/build.sh PRESET [TARGET…]
 #
-# PRESET is debug, release or ci; the result stands in build/PRESET. Without a target: everything.
+# PRESET is debug, release or ci; the result is in build/PRESET. Without a target: everything.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 readonly preset=${1:?"which preset: debug, release or ci"}
 shift
 
-# Two builds in one folder would overwrite each other's objects: the second one waits.
+# Two builds in one folder would overwrite each other's objects, so the second one waits.
 mkdir -p build
 exec {lock}>"build/$preset.lock"
 flock "$lock"

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Shows the program at work on a target that it does not know. Works inside scripts/bed.sh.
+# Demonstrates the program on another program's window. Works inside scripts/bed.sh.
 #
 #   scripts/demo.sh PRESET
 #
-# Starts Notepad with a Japanese text and the program in a folder of its own, rests the pointer on
+# Starts Notepad with a Japanese text and the program in its own folder, rests the pointer on
 # the text, prints what the program's boxes and panes say, and saves build/run/screenshot.png.
-# The windows are left open: the end of the bed ends them.
+# The windows stay open until the bed ends.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -31,7 +31,7 @@ rm -rf "$folder"
 mkdir -p "$folder"
 cp -r "$built/bin/." "$folder/"
 printf 'auto start = 1\r\n' >"$folder/Conf.txt"
-# With a byte order mark: without one Notepad takes the text for the system's code page.
+# With a byte order mark: without one Notepad reads the text in the system's code page.
 printf '\xef\xbb\xbfマウスの下にある文字を読み取ります。\r\n吾輩は猫である。名前はまだ無い。\r\n' \
   >"$folder/target.txt"
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Lays out every source as .clang-format says.
+# Formats every source with .clang-format.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/.."

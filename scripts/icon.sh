@@ -4,7 +4,7 @@
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/../resources"
-# What Windows shows at its usual scales: small and large icons at 100 to 200 %, and its large views.
+# The sizes that Windows shows at its usual scales: small and large icons at 100 to 200 %, and its large views.
 readonly sizes=(16 20 24 32 40 48 64 256)
 
 pictures=$(mktemp -d)

@@ -1,26 +1,26 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building, running and testing need, as far as they are missing.
-# With nothing missing it asks dpkg once and touches neither apt nor the network.
+# Installs the missing Debian packages for building, running and testing.
+# When nothing is missing it calls dpkg once, and neither apt nor the network.
 #
 #   scripts/packages.sh           install what is missing (as root, or through sudo)
-#   scripts/packages.sh --list    print the packages, one a line
+#   scripts/packages.sh --list    print the packages, one per line
 set -euo pipefail
 
 readonly packages=(
   # Build: the program is 32-bit; some targets of the tests are 64-bit.
   cmake ninja-build g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix googletest
-  # Run: Wine for both kinds of program, the Japanese locale and the fonts to see it in.
+  # Run: Wine for both kinds of program, the Japanese locale and the fonts to show it.
   wine wine32:i386 wine64 fonts-wine locales fonts-ipafont-gothic
-  # Drive and look: the virtual display, its pointer and keys, questions to it, screenshots.
+  # Drive and look: the virtual display, its pointer and keys, queries, screenshots.
   xvfb xdotool x11-utils imagemagick
-  # Check: the layout of the sources.
+  # Check: the format of the sources.
   clang-format
 )
 
 missing_packages() {
   local -A installed=()
   local name state
-  # dpkg-query names a package with its architecture only where several may stand side by side.
+  # dpkg-query names a package with its architecture only where several can be installed together.
   while read -r name state; do
     [[ $state == installed ]] && installed[$name]=1
   done < <(dpkg-query -W -f '${Package} ${db:Status-Status}\n${Package}:${Architecture} ${db:Status-Status}\n' \
@@ -61,12 +61,12 @@ main() {
   if ! dpkg --print-foreign-architectures | grep -qx i386; then
     as_root dpkg --add-architecture i386
   fi
-  # One index out of step with its release file must not stop the others from being used.
+  # One outdated index must not prevent the use of the others.
   as_root apt-get update || echo "Some package indexes could not be read; going on without them." >&2
 
   if ! install_packages "${missing[@]}"; then
-    # The usual cause: updates of the two architectures out of step, so that the newest versions
-    # have no partner. The release itself is always consistent.
+    # The usual cause: different states of the two architectures' updates, so that the newest
+    # versions do not fit together. The release itself is always consistent.
     local release
     # shellcheck source=/dev/null
     release=$(. /etc/os-release && echo "${VERSION_CODENAME:-stable}")

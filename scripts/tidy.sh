@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs clang-tidy with .clang-tidy over the sources; needs the package clang-tidy and a ci build.
-# Before version 16 it takes a lambda that uses a structured binding for an error.
+# Before version 16 it reports a lambda that uses a structured binding as an error.
 #
 #   scripts/tidy.sh [FILE…]       without files: everything under src/
 set -euo pipefail
@@ -9,7 +9,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 files=("$@")
 [[ ${#files[@]} -gt 0 ]] || mapfile -t files < <(find src -name '*.cpp')
 
-# clang does not know where the cross compiler keeps its library.
+# clang does not find the cross compiler's library by itself.
 arguments=(--extra-arg=--target=i686-w64-mingw32)
 while read -r folder; do
   arguments+=("--extra-arg=-isystem$folder")

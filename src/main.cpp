@@ -26,8 +26,8 @@ class ComApartment {
   HRESULT result_;
 };
 
-// The one place where the program ends while its window is open. A capture may be under way below
-// the message that led here, waiting for its target; it must not come back to life.
+// The one place where the program ends while its window is open. A capture may be running below
+// this message on the stack, waiting for its target; it must not continue.
 void EndProgram() { ExitProcess(0); }
 
 }  // namespace

@@ -1,6 +1,6 @@
 // panes.exe [SECONDS]: waits until the running program has reported a window, then prints its boxes
-// and panes in UTF-8. Gives back 0 for a report, 1 when there was none within SECONDS (default 20);
-// it then prints what stands there.
+// and panes in UTF-8. Returns 0 for a report, 1 when there was none within SECONDS (default 20);
+// it then prints what is shown.
 
 #include <windows.h>
 
@@ -101,7 +101,7 @@ std::string ToUtf8(std::wstring_view text) {
   return utf8;
 }
 
-// Each line of the text on a line of its own, so that a pane cannot be mistaken for a box.
+// Each line of the text on a separate line, so that a pane cannot be mistaken for a box.
 void Print(const char* name, const std::wstring& text) {
   std::string lines = ToUtf8(text);
   std::erase(lines, '\r');

@@ -6,6 +6,7 @@
 
 #include "accessibility/MyAccessible.h"
 #include "platform/ErrorReport.h"
+#include "platform/LineEnd.h"
 
 namespace MyAccessible {
 namespace {
@@ -42,7 +43,7 @@ bool AccAction(std::int32_t mode, IAccessible* object, const VARIANT& child) {
   const HRESULT result = action.perform(object, child);
   if (FAILED(result)) {
     std::wstring description = platform::SystemDescription(result);
-    if (!name.empty()) description += L"\r\n" + name;
+    if (!name.empty()) description += std::wstring(platform::kCrLf) + name;
     platform::ReportError(L"AccAction - " + std::wstring(action.label), {result, description});
   }
   return false;

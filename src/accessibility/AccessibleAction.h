@@ -10,8 +10,8 @@
 namespace MyAccessible {
 
 // mode 1: the default action; 2: accSelect with SELFLAG_TAKEFOCUS; 3: accSelect with
-// SELFLAG_TAKESELECTION; any other does nothing. Returns true only when object is none, after
-// saying so in a message box. A call that fails is reported in a message box.
+// SELFLAG_TAKESELECTION; any other does nothing. Returns true only when object is null, after a
+// message box that says so. A call that fails is reported in a message box.
 bool AccAction(std::int32_t mode, IAccessible* object, const VARIANT& child);
 
 // AccAction on the object at a screen point (pixels).

@@ -5,31 +5,31 @@
 #include <utility>
 
 #include "accessibility/ChildWalk.h"
-#include "accessibility/ListingProgress.h"
-#include "settings/ConfigText.h"
+#include "platform/NumberText.h"
 
 namespace MyAccessible {
 namespace {
 
-constexpr std::wstring_view kCrLf = L"\r\n";
 constexpr std::wstring_view kCutMark = L".......";
 
-// The limits below keep an object that never ends from holding the program for ever.
+// Limits for objects that have no end.
 constexpr std::int32_t kDeepest = 64;
 constexpr std::int32_t kMostNameless = 1'000;
 constexpr std::int32_t kMostTreeItems = 65'536;
 
 constexpr int kMostStepsBack = 20;
 
+bool MayGoOn(const platform::ReadSession& session) {
+  return session.GoesOn(platform::ReadUntil::kCaptureEnds);
+}
+
 class Children {
  public:
-  Children(const settings::Settings& settings, const platform::ReadSession& session)
-      : settings_(settings), progress_(session) {}
+  Children(const settings::Settings& settings, const platform::ReadSession& session,
+           platform::ItemSink& sink)
+      : settings_(settings), session_(session), sink_(sink) {}
 
-  std::wstring List(IAccessible* object) {
-    ListBelow(object, 0);
-    return std::move(text_);
-  }
+  void List(IAccessible* object) { ListBelow(object, 0); }
 
  private:
   // False once the whole listing has ended.
@@ -37,13 +37,16 @@ class Children {
     if (depth == kDeepest) return true;
     ChildWalk walk(object, settings_.parentChildrenMax - listed_);
     while (const VARIANT* const child = walk.Next()) {
-      if (progress_.Interrupted()) return EndWith(platform::kInterrupted);
+      if (!MayGoOn(session_)) return EndWith(platform::Ending::kInterrupted);
+      // When no child has a name the listing stays empty, so that the caller can use another
+      // reader.
+      if (nameless_ >= kMostNameless && listed_ == 0) return false;
       if (listed_ >= settings_.parentChildrenMax || nameless_ >= kMostNameless) {
-        return EndWith(std::wstring(kRestOmitted).append(kCrLf));
+        return EndWith(platform::Ending::kRestOmitted);
       }
       const AccessiblePtr held = ObjectIn(*child);
       Add(held ? AccName(held.Get(), Self()) : AccName(object, *child));
-      progress_.Step(listed_);
+      session_.Step(std::to_wstring(listed_));
       if (held && !ListBelow(held.Get(), depth + 1)) return false;
     }
     return true;
@@ -54,18 +57,18 @@ class Children {
       ++nameless_;
       return;
     }
-    text_.append(ShortName(name, settings_.accnameMax)).append(kCrLf);
+    PutItem(sink_, ShortName(name, settings_.accnameMax));
     ++listed_;
   }
 
-  bool EndWith(std::wstring_view line) {
-    text_ += line;
+  bool EndWith(platform::Ending ending) {
+    sink_.EndWith(ending);
     return false;
   }
 
   const settings::Settings& settings_;
-  const ListingProgress progress_;
-  std::wstring text_;
+  const platform::ReadSession& session_;
+  platform::ItemSink& sink_;
   std::int32_t listed_ = 0;
   std::int32_t nameless_ = 0;
 };
@@ -86,7 +89,7 @@ bool Move(ObjectAndChild& item, long direction) {
     return true;
   }
   if (end.Get().vt != VT_I4 || IsSelf(end.Get())) return false;
-  // The neighbour's number counts in the object that holds them both.
+  // The neighbour's number refers to the object that holds both.
   AccessiblePtr holder = IsSelf(item.child.Get()) ? AccParent(item.object.Get()) : item.object;
   if (!holder) return false;
   Place(item, std::move(holder), end.Get().lVal);
@@ -95,7 +98,7 @@ bool Move(ObjectAndChild& item, long direction) {
 
 // A tree item's value is its level.
 std::int32_t Level(const ObjectAndChild& item) {
-  return settings::LeadingNumber(AccValue(item.object.Get(), item.child.Get()));
+  return platform::LeadingNumber(AccValue(item.object.Get(), item.child.Get()));
 }
 
 }  // namespace
@@ -106,52 +109,49 @@ std::wstring ShortName(std::wstring_view name, std::int32_t accnameMax) {
   return std::wstring(name.substr(0, most)).append(kCutMark);
 }
 
-std::wstring ListChildren(HWND hwnd, const settings::Settings& settings,
-                          const platform::ReadSession& session) {
+void ListChildren(HWND hwnd, const settings::Settings& settings,
+                  const platform::ReadSession& session, platform::ItemSink& sink) {
   const AccessiblePtr object = GetAccessibleObj(hwnd);
-  if (!object) return std::wstring(kNoObject);
-  return ListChildrenOf(object.Get(), settings, session);
+  if (!object) return sink.Text(kNoObject);
+  ListChildrenOf(object.Get(), settings, session, sink);
 }
 
-std::wstring ListChildrenOf(IAccessible* object, const settings::Settings& settings,
-                            const platform::ReadSession& session) {
-  return Children(settings, session).List(object);
+void ListChildrenOf(IAccessible* object, const settings::Settings& settings,
+                    const platform::ReadSession& session, platform::ItemSink& sink) {
+  Children(settings, session, sink).List(object);
 }
 
-std::wstring ListTree(HWND hwnd, POINT point, const settings::Settings& settings,
-                      const platform::ReadSession& session) {
+void ListTree(HWND hwnd, POINT point, const settings::Settings& settings,
+              const platform::ReadSession& session, platform::ItemSink& sink) {
   ObjectAndChild found;
-  if (!GetAccessibleObjAt(point, found)) return std::wstring(kNoObject);
+  if (!GetAccessibleObjAt(point, found)) return sink.Text(kNoObject);
   if (GetObjectType(found.object.Get(), found.child.Get()) == L"Container") {
-    return ListChildren(hwnd, settings, session);
+    ListChildren(hwnd, settings, session, sink);
+  } else {
+    ListTreeAround(found, settings, session, sink);
   }
-  return ListTreeAround(found, settings, session);
 }
 
-std::wstring ListTreeAround(const ObjectAndChild& item, const settings::Settings& settings,
-                            const platform::ReadSession& session) {
-  const ListingProgress progress(session);
+void ListTreeAround(const ObjectAndChild& item, const settings::Settings& settings,
+                    const platform::ReadSession& session, platform::ItemSink& sink) {
   ObjectAndChild at;
   Place(at, item.object, ChildId(item.child.Get()));
   for (int step = 0; step < kMostStepsBack && Move(at, NAVDIR_PREVIOUS); ++step) {
   }
 
   const std::int64_t firstLevel = Level(at);
-  std::wstring text;
   std::int32_t listed = 0;
   do {
-    if (progress.Interrupted() || listed == kMostTreeItems) {
-      return text.append(platform::kInterrupted);
+    if (!MayGoOn(session) || listed == kMostTreeItems) {
+      return sink.EndWith(platform::Ending::kInterrupted);
     }
     if (settings.treeviewIndent == 1) {
       const std::int64_t deeper = Level(at) - firstLevel;
-      text.append(static_cast<std::size_t>(std::clamp<std::int64_t>(deeper, 0, kDeepest)), L'\t');
+      for (std::int64_t i = std::min<std::int64_t>(deeper, kDeepest); i > 0; --i) sink.Cell({});
     }
-    text.append(ShortName(AccName(at.object.Get(), at.child.Get()), settings.accnameMax))
-        .append(kCrLf);
-    progress.Step(++listed);
+    PutItem(sink, ShortName(AccName(at.object.Get(), at.child.Get()), settings.accnameMax));
+    session.Step(std::to_wstring(++listed));
   } while (Move(at, NAVDIR_NEXT));
-  return text;
 }
 
 }  // namespace MyAccessible

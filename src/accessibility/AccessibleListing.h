@@ -1,5 +1,5 @@
-// The names of accessible objects, one a line, each line with its CR LF: what trees, drop-down
-// lists and windows of no known kind are listed by. Names are cut as "accname max" says.
+// The names of accessible objects, one per row. They list trees, drop-down lists and windows of
+// unknown kinds. Names are cut as "accname max" says.
 #pragma once
 
 #include <windows.h>
@@ -9,39 +9,36 @@
 #include <string_view>
 
 #include "accessibility/MyAccessible.h"
+#include "platform/ItemSink.h"
 #include "platform/ReadSession.h"
 #include "settings/Settings.h"
 
 namespace MyAccessible {
 
-// Stands for a listing when there is no accessible object to list.
+// Shown in place of a listing when there is no accessible object. Odd, and stays: docs/ODDITIES.md.
 constexpr std::wstring_view kNoObject = L"% 取得エラー！ %";
 
-// The line that ends a listing which is cut at "parent & children max"; without its line end.
-constexpr std::wstring_view kRestOmitted =
-    L"-- 以下省略 -- 個数変更：[設定]→[MSAA] …Child最大取得個数";
-
-// The name, cut to its first accnameMax characters with seven full stops behind it when it has
-// more.
+// The name; a longer one is cut to its first accnameMax characters and followed by seven full
+// stops.
 std::wstring ShortName(std::wstring_view name, std::int32_t accnameMax);
 
 // The children of the window's accessible object, each followed by its own children. Children
-// without a name get no line.
-std::wstring ListChildren(HWND hwnd, const settings::Settings& settings,
-                          const platform::ReadSession& session);
+// without a name get no row; when no child has a name, nothing is listed.
+void ListChildren(HWND hwnd, const settings::Settings& settings,
+                  const platform::ReadSession& session, platform::ItemSink& sink);
 
 // The same for an object.
-std::wstring ListChildrenOf(IAccessible* object, const settings::Settings& settings,
-                            const platform::ReadSession& session);
+void ListChildrenOf(IAccessible* object, const settings::Settings& settings,
+                    const platform::ReadSession& session, platform::ItemSink& sink);
 
-// The items of the tree view hwnd, from the first of the level of the item at the screen point
-// (pixels); with "treeview indent", indented with TABs. Not over an item: its children as
-// ListChildren gives them.
-std::wstring ListTree(HWND hwnd, POINT point, const settings::Settings& settings,
-                      const platform::ReadSession& session);
+// The items of the tree view hwnd, from the first one on the level of the item at the screen point
+// (pixels). With "treeview indent" each row begins with an empty cell for every level below that.
+// When the point is not over an item, lists the children as ListChildren does.
+void ListTree(HWND hwnd, POINT point, const settings::Settings& settings,
+              const platform::ReadSession& session, platform::ItemSink& sink);
 
-// The items around one of them.
-std::wstring ListTreeAround(const ObjectAndChild& item, const settings::Settings& settings,
-                            const platform::ReadSession& session);
+// The same, with the item at the point given.
+void ListTreeAround(const ObjectAndChild& item, const settings::Settings& settings,
+                    const platform::ReadSession& session, platform::ItemSink& sink);
 
 }  // namespace MyAccessible

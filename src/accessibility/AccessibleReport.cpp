@@ -1,21 +1,22 @@
 #include "accessibility/AccessibleReport.h"
 
-#include <cstdio>
-#include <iterator>
 #include <string_view>
 #include <utility>
 
 #include "accessibility/AccessibleRows.h"
 #include "platform/ErrorReport.h"
-#include "settings/ConfigText.h"
+#include "platform/HandleText.h"
+#include "platform/LineEnd.h"
+#include "platform/NumberText.h"
+#include "platform/Rounding.h"
 
 namespace MyAccessible {
 namespace {
 
-constexpr std::wstring_view kCrLf = L"\r\n";
+using platform::kCrLf;
 
 AccessibleFacts ReadFacts(const ObjectAndChild& found, const settings::Settings& settings,
-                          const ListingProgress& progress) {
+                          const platform::ReadSession& session) {
   IAccessible* const object = found.object.Get();
   const VARIANT& child = found.child.Get();
   AccessibleFacts facts;
@@ -38,16 +39,12 @@ AccessibleFacts ReadFacts(const ObjectAndChild& found, const settings::Settings&
     }
   }
   facts.childCount = ChildCountText(object, child);
-  if (settings.parentChildren == 1) facts.children = ChildRows(object, child, settings, progress);
+  if (settings.parentChildren == 1) facts.children = ChildRows(object, child, settings, session);
   return facts;
 }
 
 std::wstring HexState(const std::wstring& state) {
-  if (state.empty()) return {};
-  wchar_t digits[9] = {};
-  std::swprintf(digits, std::size(digits), L"%X",
-                static_cast<unsigned>(settings::LeadingNumber(state)));
-  return digits;
+  return state.empty() ? std::wstring() : platform::Hexadecimal(platform::LeadingNumber(state));
 }
 
 // The report, line by line.
@@ -64,6 +61,7 @@ class Words {
       Line({});
     } else {
       Members();
+      // Ends here. Odd, and stays: docs/ODDITIES.md.
       if (EdgeOverflows(object_)) return std::move(text_);
       MembersBelowLocation();
     }
@@ -78,8 +76,7 @@ class Words {
   void Heading() {
     Line(L"MSAA(MS Active Accessibility)情報");
     if (const ReportedWindow& window = facts_.window; window.hwnd != nullptr) {
-      const auto handle = static_cast<std::int32_t>(reinterpret_cast<INT_PTR>(window.hwnd));
-      Line(L"　--ウィンドウハンドル(" + std::to_wstring(handle) + L")から取得");
+      Line(L"　--ウィンドウハンドル(" + platform::DecimalHandle(window.hwnd) + L")から取得");
       Line(L"　　" + window.className + L" \"" + window.title + L"\"");
     }
     Line(std::wstring(39, L'-'));
@@ -130,7 +127,7 @@ class Words {
 
   void Children() {
     if (max_ < 1) {
-      // Without a line end, unlike the line about the parents.
+      // Without a line end. Odd, and stays: docs/ODDITIES.md.
       text_ += L"Children 　: 取得最大個数は０になっています";
       return;
     }
@@ -145,13 +142,12 @@ class Words {
   std::wstring text_;
 };
 
-// Everything in the order in which it is told; what an overflow leaves untold is not read.
+// Reads everything in the order of the report; what an overflow leaves out is not read.
 ReportFacts ReadReport(const ReportedWindow& window, const ObjectAndChild& found,
                        const settings::Settings& settings, const platform::ReadSession& session) {
-  const ListingProgress progress(session);
   ReportFacts facts;
   facts.window = window;
-  facts.object = ReadFacts(found, settings, progress);
+  facts.object = ReadFacts(found, settings, session);
   IAccessible* const object = found.object.Get();
   const VARIANT& child = found.child.Get();
   if (!facts.object.role.empty()) {
@@ -160,9 +156,9 @@ ReportFacts ReadReport(const ReportedWindow& window, const ObjectAndChild& found
     facts.objectType = GetObjectType(object, child);
   }
   if (settings.parentChildrenMax >= 1) {
-    // Asked for twice: first whether there are any, then what they are.
-    facts.hasAncestors = !AncestorRows(object, child, settings, progress).empty();
-    if (facts.hasAncestors) facts.ancestors = AncestorRows(object, child, settings, progress);
+    // Read twice. Odd, and stays: docs/ODDITIES.md.
+    facts.hasAncestors = !AncestorRows(object, child, settings, session).empty();
+    if (facts.hasAncestors) facts.ancestors = AncestorRows(object, child, settings, session);
   }
   return facts;
 }
@@ -170,9 +166,12 @@ ReportFacts ReadReport(const ReportedWindow& window, const ObjectAndChild& found
 }  // namespace
 
 bool EdgeOverflows(const AccessibleFacts& object) {
-  const auto& [left, top, width, height] = object.location;
-  std::int32_t edge = 0;
-  return __builtin_add_overflow(left, width, &edge) || __builtin_add_overflow(top, height, &edge);
+  const auto leaves32Bits = [](std::int32_t start, std::int32_t size) {
+    const std::int64_t edge = std::int64_t{start} + size;
+    return edge != platform::ClampToInt32(edge);
+  };
+  const Location& place = object.location;
+  return leaves32Bits(place.left, place.width) || leaves32Bits(place.top, place.height);
 }
 
 std::wstring AccessibleReportText(const ReportFacts& facts, const settings::Settings& settings) {

@@ -1,4 +1,4 @@
-// The report on one accessible object: its members, what holds it and what it holds.
+// The report on one accessible object: its members, its ancestors and its children.
 #pragma once
 
 #include <windows.h>
@@ -38,7 +38,7 @@ struct ReportedWindow {
   std::wstring title;
 };
 
-// What the report says beside the members.
+// Everything that the report shows.
 struct ReportFacts {
   ReportedWindow window;
   AccessibleFacts object;
@@ -48,7 +48,8 @@ struct ReportFacts {
   std::wstring ancestors;  // rows
 };
 
-// Whether the right or the bottom edge of the object leaves 32 bits, which ends its report there.
+// Whether the right or the bottom edge of the object does not fit into 32 bits, which ends its
+// report there.
 bool EdgeOverflows(const AccessibleFacts& object);
 
 // The report in words.
@@ -61,7 +62,7 @@ std::wstring GetAccessibleMemberFromPoint(AccessibleFacts& record, const Reporte
                                           POINT point, const settings::Settings& settings,
                                           const platform::ReadSession& session);
 
-// The same for an object that was found.
+// The same for an object that was found already.
 std::wstring ReportOf(AccessibleFacts& record, const ReportedWindow& window,
                       const ObjectAndChild& found, const settings::Settings& settings,
                       const platform::ReadSession& session);

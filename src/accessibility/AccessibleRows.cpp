@@ -6,16 +6,15 @@
 
 #include "accessibility/AccessibleListing.h"
 #include "accessibility/ChildWalk.h"
+#include "platform/LineEnd.h"
+#include "platform/TextSink.h"
 
 namespace MyAccessible {
 namespace {
 
-constexpr std::wstring_view kCrLf = L"\r\n";
+using platform::kCrLf;
 
-// Whatever the setting says: parents that go round in a circle would never end.
-constexpr std::int32_t kMostAncestors = 1000;
-
-// Far outside the screen right and bottom may leave 32 bits.
+// Far outside the screen, the right and bottom edges may not fit into 32 bits.
 std::wstring Edge(std::int32_t start, std::int32_t size) {
   return std::to_wstring(std::int64_t{start} + size);
 }
@@ -61,20 +60,24 @@ std::wstring RowText(const RowFacts& row) {
 }
 
 std::wstring AncestorRows(IAccessible* object, const VARIANT& child,
-                          const settings::Settings& settings, const ListingProgress& progress) {
+                          const settings::Settings& settings,
+                          const platform::ReadSession& session) {
   const std::int32_t max = settings.parentChildrenMax;
   if (max == 0) return {};
   std::vector<std::wstring> rows;
   AccessiblePtr ancestor = IsSelf(child) ? AccParent(object) : AccessiblePtr(object);
-  for (std::int32_t i = 0; ancestor && i <= max && i < kMostAncestors; ++i) {
-    if (progress.HasMovedOn()) {
-      rows.push_back(std::wstring(platform::kInterrupted).append(kCrLf));
+  // One more than the largest number. Odd, and stays: docs/ODDITIES.md.
+  for (std::int64_t i = 0; ancestor && i <= max; ++i) {
+    // Parents may form a circle.
+    if (!session.GoesOn(platform::ReadUntil::kCaptureEnds)) {
+      rows.push_back(std::wstring(platform::kInterruptedMark).append(kCrLf));
       break;
     }
     RowFacts row = ReadRow(ancestor.Get(), Self(), settings.accnameMax);
+    // The name in the column accValue. Odd, and stays: docs/ODDITIES.md.
     row.last = AccName(ancestor.Get(), child);
     rows.push_back(RowText(row));
-    progress.LetGoOn();
+    session.yield();
     ancestor = AccParent(ancestor.Get());
   }
   std::wstring text;
@@ -83,17 +86,21 @@ std::wstring AncestorRows(IAccessible* object, const VARIANT& child,
 }
 
 std::wstring ChildRows(IAccessible* object, const VARIANT& child,
-                       const settings::Settings& settings, const ListingProgress& progress) {
+                       const settings::Settings& settings, const platform::ReadSession& session) {
   const AccessiblePtr parent = Parent(object, child);
   if (!parent) return {};
   std::wstring text;
   std::int32_t listed = 0;
   ChildWalk walk(parent.Get(), settings.parentChildrenMax);
   while (const VARIANT* const next = walk.Next()) {
-    if (progress.Interrupted()) return text.append(platform::kInterrupted);
-    if (listed >= settings.parentChildrenMax) return text.append(kRestOmitted).append(kCrLf);
+    if (!session.GoesOn(platform::ReadUntil::kCaptureEnds)) {
+      return text.append(platform::kInterruptedMark);
+    }
+    if (listed >= settings.parentChildrenMax) {
+      return text.append(platform::kRestOmittedLine).append(kCrLf);
+    }
     text += RowText(ReadChildRow(parent.Get(), *next, settings.accnameMax));
-    progress.Step(++listed);
+    session.Step(std::to_wstring(++listed));
   }
   return text;
 }

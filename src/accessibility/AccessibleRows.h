@@ -8,8 +8,8 @@
 
 #include <string>
 
-#include "accessibility/ListingProgress.h"
 #include "accessibility/MyAccessible.h"
+#include "platform/ReadSession.h"
 #include "settings/Settings.h"
 
 namespace MyAccessible {
@@ -21,21 +21,20 @@ struct RowFacts {
   Location location;
   std::wstring childCount;
   std::wstring last;      // the last column
-  std::wstring typeName;  // for rows that tell it
+  std::wstring typeName;  // for children that are objects
 };
 
 std::wstring RowText(const RowFacts& row);
 
-// The objects that hold the child of object, the outermost first; "parent & children max" + 1 at
-// most, none when that is 0. The last column holds the ancestor's name for child. Those that are
-// not reached before the capture moves on are left out, with a mark in their place; a capture that
-// ends gets them all.
+// The ancestors of the child of object, the outermost first; "parent & children max" + 1 at most,
+// none when that is 0. The last column holds the ancestor's name for child. After an interruption a
+// mark stands in place of the others.
 std::wstring AncestorRows(IAccessible* object, const VARIANT& child,
-                          const settings::Settings& settings, const ListingProgress& progress);
+                          const settings::Settings& settings, const platform::ReadSession& session);
 
-// The children of what child means, "parent & children max" at most, and then a line that says so.
-// The last column holds the value; children that are objects tell their type.
+// The children of the object or child, "parent & children max" at most, then a line that says that
+// the rest is omitted. The last column holds the value; children that are objects show their type.
 std::wstring ChildRows(IAccessible* object, const VARIANT& child,
-                       const settings::Settings& settings, const ListingProgress& progress);
+                       const settings::Settings& settings, const platform::ReadSession& session);
 
 }  // namespace MyAccessible

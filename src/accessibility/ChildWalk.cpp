@@ -28,7 +28,7 @@ void ChildWalk::Fetch() {
   long obtained = 0;
   if (FAILED(AccessibleChildren(object_, fetched_, asked, children_.data(), &obtained))) return;
   obtained_ = static_cast<std::size_t>(std::clamp(obtained, 0L, asked));
-  // Fewer than asked for were the last ones, whatever the object's count says.
+  // Fewer than requested: they were the last ones, whatever the object's count says.
   fetched_ = obtained < asked ? count_ : fetched_ + obtained;
 }
 

@@ -12,8 +12,8 @@ namespace MyAccessible {
 
 class ChildWalk {
  public:
-  // wanted: how many children the caller means to look at. So many are fetched at once, within
-  // reason; more can be had. object must outlive the walk.
+  // wanted: how many children the caller needs. That many are fetched at once, up to a limit; more
+  // can be read. object must outlive the walk.
   ChildWalk(IAccessible* object, std::int32_t wanted);
   ~ChildWalk();
   ChildWalk(const ChildWalk&) = delete;
@@ -28,7 +28,7 @@ class ChildWalk {
   void Clear() noexcept;
 
   IAccessible* object_;
-  long count_ = 0;  // as the object says, which need not be true
+  long count_ = 0;  // as the object says, which may be wrong
   long fetched_ = 0;
   std::vector<VARIANT> children_;  // those fetched last, owned
   std::size_t obtained_ = 0;

@@ -2,6 +2,7 @@
 
 #include "accessibility/RoleStateWords.h"
 #include "platform/ErrorReport.h"
+#include "platform/VariantValue.h"
 
 namespace MyAccessible {
 namespace {
@@ -14,28 +15,9 @@ std::wstring TextOf(IAccessible* object, TextMember member, const VARIANT& child
   return text.Text();
 }
 
-// Objects are not asked for a number: that would call into them once more.
-std::optional<std::int32_t> NumberIn(const VARIANT& value) {
-  switch (value.vt) {
-    case VT_EMPTY:
-    case VT_NULL:
-    case VT_ERROR:
-    case VT_DISPATCH:
-    case VT_UNKNOWN:
-      return std::nullopt;
-    default:
-      break;
-  }
-  platform::UniqueVariant number;
-  // The header lacks the const; the value is only read.
-  auto* const source = const_cast<VARIANT*>(&value);
-  if (FAILED(VariantChangeType(number.Receive(), source, 0, VT_I4))) return std::nullopt;
-  return number.Get().lVal;
-}
-
 std::wstring RoleIn(const VARIANT& role) {
-  if (role.vt == VT_BSTR) return {role.bstrVal, SysStringLen(role.bstrVal)};
-  const std::optional<std::int32_t> number = NumberIn(role);
+  if (role.vt == VT_BSTR) return platform::TextIn(role);
+  const std::optional<std::int32_t> number = platform::NumberIn(role);
   return number ? std::to_wstring(*number) : std::wstring();
 }
 
@@ -124,7 +106,7 @@ std::wstring GetAccRoleText(IAccessible* object, const VARIANT& child) {
 std::optional<std::int32_t> AccState(IAccessible* object, const VARIANT& child) {
   platform::UniqueVariant state;
   if (FAILED(object->get_accState(child, state.Receive()))) return std::nullopt;
-  return NumberIn(state.Get());
+  return platform::NumberIn(state.Get());
 }
 
 std::wstring AccStateText(IAccessible* object, const VARIANT& child) {
@@ -176,6 +158,7 @@ std::wstring GetObjectType(IAccessible* object, const VARIANT& child) {
   }
   if (child.vt == VT_EMPTY) return {};
   if (!IsSelf(child)) return L"Simple Element";
+  // A container also with 0 children. Odd, and stays: docs/ODDITIES.md.
   return ChildCountText(object, child).empty() ? L"Real Object" : L"Container";
 }
 

@@ -17,7 +17,7 @@ namespace MyAccessible {
 
 using AccessiblePtr = Microsoft::WRL::ComPtr<IAccessible>;
 
-// An object and the child in it that is meant: 0 (CHILDID_SELF) for the object itself.
+// An object and one of its children: 0 (CHILDID_SELF) is the object itself.
 struct ObjectAndChild {
   AccessiblePtr object;  // empty when there is none
   platform::UniqueVariant child;
@@ -51,7 +51,7 @@ std::wstring AccRole(IAccessible* object, const VARIANT& child);
 // The Japanese name of the role. A role that cannot be read is reported in a message box.
 std::wstring GetAccRoleText(IAccessible* object, const VARIANT& child);
 
-// The state bits; none when they cannot be read or are no number.
+// The state bits; nothing when they cannot be read or are not a number.
 std::optional<std::int32_t> AccState(IAccessible* object, const VARIANT& child);
 
 // The sentences of the state bits that are set.

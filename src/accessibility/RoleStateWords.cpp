@@ -11,7 +11,8 @@
 namespace MyAccessible {
 namespace {
 
-// By role number, from 1. What is shown follows the third "_".
+// By role number, from 1. What is shown follows the third "_". Some of the words are odd, and
+// stay: docs/ODDITIES.md.
 constexpr std::wstring_view kRoles[] = {
     L"ROLE_SYSTEM_TITLEBAR_タイトルバー",
     L"ROLE_SYSTEM_MENUBAR_メニューバー",
@@ -101,7 +102,8 @@ struct StateWord {
   std::wstring_view text;
 };
 
-// In the order in which the texts are joined, which is not the order of the bits.
+// In the order in which the texts are joined, not that of the bits. Odd, and stays:
+// docs/ODDITIES.md.
 constexpr StateWord kStates[] = {
     {STATE_SYSTEM_UNAVAILABLE, L"利用不可。"},
     {STATE_SYSTEM_CHECKED, L"チェックされています。"},

@@ -7,8 +7,8 @@
 
 namespace MyAccessible {
 
-// The name of a role that is given as its decimal number; empty for a role that has none, and for
-// a role that is a text of its own.
+// The name of a role that is given as its decimal number; empty for a role that has no name here,
+// and for a role that is given as another text.
 std::wstring RoleWord(std::wstring_view role);
 
 // The sentences of the bits that are set (STATE_SYSTEM_...), with nothing between them.

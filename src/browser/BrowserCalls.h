@@ -1,18 +1,15 @@
-// The system calls by which a page is reached, one method a call. The methods make the call of
-// their name; tests override them to record the arguments and to answer as they like.
+// The system calls by which a page is reached, one method per call. Each method makes the call of
+// its name; tests override them to record the arguments and to choose the answers.
 #pragma once
 
 #include <windows.h>
 
+#include "platform/Interface.h"
+
 namespace MyInternetexplore {
 
-class BrowserCalls {
+class BrowserCalls : public platform::Interface {
  public:
-  BrowserCalls() = default;
-  BrowserCalls(const BrowserCalls&) = delete;
-  BrowserCalls& operator=(const BrowserCalls&) = delete;
-  virtual ~BrowserCalls() = default;
-
   virtual UINT RegisterWindowMessageA(const char* name);
   virtual LRESULT SendMessageTimeoutA(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam,
                                       UINT flags, UINT milliseconds, DWORD_PTR* answer);
@@ -25,7 +22,7 @@ class BrowserCalls {
   virtual DWORD GetTickCount();
 };
 
-// The one that makes the calls.
+// The real calls.
 BrowserCalls& SystemBrowserCalls();
 
 }  // namespace MyInternetexplore

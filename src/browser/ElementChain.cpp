@@ -19,7 +19,7 @@ bool Shows(IHTMLWindow2* frame, IHTMLDocument2* document) {
   return SUCCEEDED(frame->get_document(own.GetAddressOf())) && own && IsSame(own.Get(), document);
 }
 
-// The frame element in which the page around shows document.
+// The frame element in which the enclosing page shows document.
 ElementPtr FrameElementOf(IHTMLDocument2* document) {
   const DocumentPtr around = GetParentDocument(document);
   if (!around || IsSame(around.Get(), document)) return {};
@@ -64,7 +64,7 @@ void ReadChain(ElementPtr element, FrameTrail frames, std::size_t mostText,
                const platform::ReadSession& session, PageFacts& facts) {
   bool leftFrame = false;
   for (int i = 0; element && i < kMostLevels; ++i) {
-    if (session.Interrupted()) {
+    if (!session.GoesOn(platform::ReadUntil::kCaptureEnds)) {
       facts.interrupted = true;
       break;
     }

@@ -1,17 +1,19 @@
-// The way from an element up to the root of the topmost page, out of every frame on the way.
+// From an element up to the root of the topmost page, through all frames around it.
 #pragma once
 
 #include <cstddef>
 
 #include "browser/FrameDescent.h"
 #include "browser/Interfaces.h"
-#include "browser/PageReader.h"
+#include "browser/PageFacts.h"
+#include "platform/ReadSession.h"
 
 namespace MyInternetexplore {
 
 // The parent element, or, at the top of a document in a frame, the frame element around it: taken
-// from frames, and where those are used up, found among the frames of the page around. Empty at
-// the topmost root, and when the page around cannot be read. leftFrame tells which of them it was.
+// from frames, and once frames is empty, found among the frames of the enclosing page. Empty at the
+// topmost root, and when the enclosing page cannot be read. leftFrame is set when the element had
+// no parent.
 ElementPtr NextOutward(IHTMLElement* element, FrameTrail& frames, bool& leftFrame);
 
 // Fills chain, framePath and interrupted of the facts for the element; at most kMostLevels rows.

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "platform/ComOwners.h"
+#include "platform/LineEnd.h"
+#include "platform/VariantValue.h"
 
 namespace MyInternetexplore {
 namespace {
@@ -17,41 +19,17 @@ std::wstring TextOf(Object* object, TextMember<Object> member) {
   return text.Text();
 }
 
-// Objects are not asked for a text: that would call into them once more.
-bool CanBeText(const VARIANT& value) {
-  switch (value.vt) {
-    case VT_EMPTY:
-    case VT_NULL:
-    case VT_ERROR:
-    case VT_DISPATCH:
-    case VT_UNKNOWN:
-      return false;
-    default:
-      return true;
-  }
-}
-
-std::wstring TextIn(const VARIANT& value) {
-  if (!CanBeText(value)) return {};
-  if (value.vt == VT_BSTR) return {value.bstrVal, SysStringLen(value.bstrVal)};
-  platform::UniqueVariant text;
-  // The header lacks the const; the value is only read.
-  auto* const source = const_cast<VARIANT*>(&value);
-  if (FAILED(VariantChangeType(text.Receive(), source, 0, VT_BSTR))) return {};
-  return {text.Get().bstrVal, SysStringLen(text.Get().bstrVal)};
-}
-
 std::wstring TextByName(IDispatch* object, const wchar_t* name) {
   platform::UniqueVariant value;
   if (FAILED(GetByName(object, name, value.Receive()))) return {};
-  return TextIn(value.Get());
+  return platform::TextIn(value.Get());
 }
 
 std::wstring Attribute(IHTMLElement* element, const wchar_t* name) {
   const platform::UniqueBstr argument(name);
   platform::UniqueVariant value;
   if (FAILED(element->getAttribute(argument.Get(), 0, value.Receive()))) return {};
-  return TextIn(value.Get());
+  return platform::TextIn(value.Get());
 }
 
 std::wstring AncestorText(IHTMLElement* element, int levels, TextMember<IHTMLElement> member) {
@@ -104,7 +82,7 @@ std::wstring StartOfInnerText(IHTMLElement* element, std::size_t mostCharacters)
   std::wstring start;
   std::size_t i = 0;
   while (i < text.size() && start.size() < mostCharacters) {
-    const std::size_t end = std::min(text.find(L"\r\n", i), text.size());
+    const std::size_t end = std::min(text.find(platform::kCrLf, i), text.size());
     start += text.substr(i, std::min(end - i, mostCharacters - start.size()));
     i = end + 2;
   }

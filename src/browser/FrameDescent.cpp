@@ -16,7 +16,7 @@ struct Level {
   POINT origin;
 };
 
-// Pages may tell any numbers, and sums outside 32 bits wrap around.
+// Pages may report any numbers, and sums outside 32 bits wrap around.
 LONG Sum(LONG a, LONG b) { return static_cast<LONG>(std::int64_t{a} + b); }
 LONG Difference(LONG a, LONG b) { return static_cast<LONG>(std::int64_t{a} - b); }
 
@@ -30,8 +30,8 @@ ElementPtr ElementAt(const Level& level, POINT point) {
 
 bool IsFrameTag(std::wstring_view tag) { return tag == L"FRAME" || tag == L"IFRAME"; }
 
-// The document in a frame and where it lies: the frame element's rectangle is relative to the
-// document around it and negative where that is scrolled.
+// The document in a frame and its origin. The frame element's rectangle is relative to the
+// enclosing document, and negative where that is scrolled.
 Level Enter(const Level& outer, const ElementPtr& frameElement, IHTMLWindow2* frame) {
   Level inner;
   Require(frame->get_document(inner.document.GetAddressOf()));
@@ -58,6 +58,7 @@ DocumentPtr InnermostDocument(POINT readPoint, Level level, POINT& outOrigin, Fr
       outOrigin = level.origin;
       return level.document;
     }
+    // By id or name here, by name alone below. Odd, and stays: docs/ODDITIES.md.
     const WindowPtr frame = FindFrameNamed(level.document.Get(), GetElIdOrName(element.Get()));
     if (!frame) return {};
     level = Enter(level, element, frame.Get());
@@ -100,10 +101,12 @@ ElementPtr InnermostElement(POINT pointer, Level level, POINT& outOrigin, FrameT
 }  // namespace
 
 DocumentPtr ResolveFrameDocument(POINT readPoint, POINT origin, IHTMLDocument2* document,
-                                 POINT& outOrigin, FrameTrail& trail) {
+                                 POINT& outOrigin, FrameTrail& trail,
+                                 const ShowMessage& showMessage) {
   try {
     return InnermostDocument(readPoint, {document, origin}, outOrigin, trail);
   } catch (...) {
+    showMessage(L"ResolveFrameDocument:" + platform::CurrentErrorText());
     return {};
   }
 }

@@ -8,7 +8,7 @@
 namespace MyInternetexplore {
 namespace {
 
-// A document that claims more of them is not believed.
+// Larger counts are limited to this.
 constexpr LONG kMostFrames = 4096;
 
 WindowPtr FrameAt(IHTMLFramesCollection2* frames, LONG index) {

@@ -1,5 +1,4 @@
-// The frames of a document. What fails throws platform::NumberedError, so that a descent can end
-// where it stands.
+// The frames of a document. Failures throw platform::NumberedError, which ends a descent at once.
 #pragma once
 
 #include <windows.h>
@@ -14,16 +13,18 @@ namespace MyInternetexplore {
 // Throws when the call failed.
 void Require(HRESULT result);
 
-// The first frame for which isIt says so, in the order of the document; empty when there is none.
+// The first frame for which isIt returns true, in the order of the document; empty when there is
+// none.
 WindowPtr FindFrame(IHTMLDocument2* document, const std::function<bool(IHTMLWindow2*)>& isIt);
 
 // Searches the frames by their names: equal texts, or equal as variants (a text and an empty
 // variant are equal when the text is empty, nothing equals null). A frame without a name has an
-// empty one.
+// empty one, so an unnamed frame element finds the first unnamed frame. Odd, and stays:
+// docs/ODDITIES.md.
 WindowPtr FindFrameNamed(IHTMLDocument2* document, const std::wstring& name);
 WindowPtr FindFrameNamed(IHTMLDocument2* document, const VARIANT& name);
 
-// What is one and the same object, whichever of its interfaces it is held by.
+// Whether both are the same COM object, whichever interfaces they are held by.
 bool IsSame(IUnknown* a, IUnknown* b);
 
 }  // namespace MyInternetexplore

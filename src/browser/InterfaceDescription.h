@@ -1,4 +1,4 @@
-// The description of the browser's interfaces.
+// The type library that describes the browser's interfaces.
 #pragma once
 
 #include <windows.h>
@@ -8,11 +8,11 @@
 
 namespace MyInternetexplore {
 
-// The system carries calls to pages of other programs by this description. Unless somebody holds
-// it, it is loaded anew for the objects of every reading, which takes far longer than the reading.
+// The system needs this description to pass calls on to pages of other programs. Unless it is held,
+// it is loaded again for every report, which takes far longer than the report.
 class InterfaceDescription {
  public:
-  // Holds it from now on. Where it is not registered nothing is held, and nobody is told.
+  // Loads and holds it. When it is not registered, nothing is held and nothing is reported.
   void Hold();
 
  private:

@@ -1,4 +1,4 @@
-// The browser's objects, as the rooms of this folder hold them.
+// Smart pointers to the browser's objects.
 #pragma once
 
 #include <windows.h>
@@ -12,7 +12,7 @@ using DocumentPtr = Microsoft::WRL::ComPtr<IHTMLDocument2>;
 using ElementPtr = Microsoft::WRL::ComPtr<IHTMLElement>;
 using WindowPtr = Microsoft::WRL::ComPtr<IHTMLWindow2>;
 
-// No descent and no walk goes further: pages can claim to be nested without end.
+// The limit of every descent and walk: pages can claim to be nested without end.
 constexpr int kMostLevels = 256;
 
 }  // namespace MyInternetexplore

@@ -8,15 +8,16 @@
 namespace MyInternetexplore {
 namespace {
 
+// Without the error. Odd, and stays: docs/ODDITIES.md.
 constexpr wchar_t kNoDocument[] = L"GetElByPos:Generate Html-DOC failed";
 
-// The object of the answer, asked for by id; empty when it is refused.
+// The object of the answer, requested by id; empty when it is refused.
 Microsoft::WRL::ComPtr<IUnknown> ObjectOf(DWORD_PTR answer, REFIID id, BrowserCalls& calls) {
   Microsoft::WRL::ComPtr<IUnknown> object;
   if (answer == 0) return object;
   void* received = nullptr;
   if (FAILED(calls.ObjectFromLresult(static_cast<LRESULT>(answer), id, 0, &received))) return {};
-  // Whatever its identifier, an interface begins with these three methods.
+  // Every interface begins with the three methods of IUnknown.
   *object.GetAddressOf() = static_cast<IUnknown*>(received);
   return object;
 }
@@ -27,11 +28,13 @@ DocumentPtr RequestDocument(HWND hwnd, const BrowserAccess& access) {
 
   IID id = IID_IHTMLDocument;
   DWORD_PTR answer = access.messages.Send(hwnd, message);
-  // The object is asked for under no identifier at all: the server then gives its own choice.
+  if (answer != 0 && access.description != nullptr) access.description->Hold();
+  // The object is requested under the all-zero identifier. Odd, and stays: docs/ODDITIES.md.
   std::memset(&id, 0, sizeof id);
   Microsoft::WRL::ComPtr<IUnknown> object = ObjectOf(answer, id, access.calls);
   if (answer != 0 && !object) {
-    // Where that is refused, the document is asked for by its name. An answer serves only once.
+    // When that is refused, the document's own interface is requested. An answer can be used only
+    // once.
     answer = access.messages.Send(hwnd, message);
     object = ObjectOf(answer, IID_IHTMLDocument2, access.calls);
   }
@@ -53,9 +56,10 @@ DocumentPtr GetIeObjFromhWnd(HWND hwnd, const BrowserAccess& access) {
 }
 
 FoundElement FindElement(POINT readPoint, POINT origin, IHTMLDocument2* document,
-                         const BrowserAccess& access) {
+                         const BrowserAccess& access, const ShowMessage& showMessage) {
   FoundElement found;
-  const DocumentPtr inner = ResolveFrameDocument(readPoint, origin, document, origin, found.frames);
+  const DocumentPtr inner =
+      ResolveFrameDocument(readPoint, origin, document, origin, found.frames, showMessage);
   if (inner) {
     found.element = GetElFromPoint(origin, inner.Get(), origin, found.frames, access.calls);
   }
@@ -77,7 +81,7 @@ ElementPtr GetElByPos(int x, int y, const BrowserAccess& access, const ShowMessa
     showMessage(kNoDocument);
     return {};
   }
-  return FindElement(point, origin, document.Get(), access).element;
+  return FindElement(point, origin, document.Get(), access, showMessage).element;
 }
 
 }  // namespace MyInternetexplore

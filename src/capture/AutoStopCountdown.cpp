@@ -14,10 +14,11 @@ std::int32_t RemainingSeconds(std::int32_t time, std::uint32_t stillMs) {
 }
 
 Countdown DecideCountdown(const settings::Settings& settings, std::uint32_t stillMs) {
-  if (settings.autoStop != 1 || settings.autoStopTime <= 0) return {CountdownStep::Clear};
+  if (settings.autoStop != 0 && settings.autoStop != 1) return {CountdownStep::Keep};
+  if (settings.autoStop == 0 || settings.autoStopTime <= 0) return {CountdownStep::Clear};
   const std::int32_t remaining = RemainingSeconds(settings.autoStopTime, stillMs);
   if (remaining < 1) return {CountdownStep::Stop};
-  // While more is left the last digit stays, also after the pointer has moved.
+  // The last digit stays while more is left. Odd, and stays: docs/ODDITIES.md.
   if (remaining > kFirstShown) return {CountdownStep::Keep};
   return {CountdownStep::Show, remaining};
 }

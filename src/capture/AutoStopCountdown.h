@@ -24,7 +24,8 @@ struct Countdown {
   std::int32_t remaining = 0;
 };
 
-// What a pass does. A time of 0 or less never stops a capture: auto stop needs a time.
+// What a pass does. Only "auto stop" 1 stops a capture, and a time of 0 or less never does: auto
+// stop needs a time.
 Countdown DecideCountdown(const settings::Settings& settings, std::uint32_t stillMs);
 
 }  // namespace capture

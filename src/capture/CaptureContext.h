@@ -1,4 +1,4 @@
-// What every step of a capture works on, handed around as one.
+// What every step of a capture needs, in one struct.
 #pragma once
 
 #include "capture/CaptureState.h"
@@ -15,8 +15,8 @@ struct CaptureContext {
   CaptureSystem& system;
 };
 
-// Runs one statement of a capture. Whatever fails in it is ignored and the capture goes on with
-// the next: no window that is read may end it.
+// Runs one statement of a capture and ignores what it throws, because no window that is read may
+// end a capture.
 template <typename Statement>
 void Attempt(Statement&& statement) noexcept {
   try {

@@ -1,13 +1,15 @@
 #include "capture/CaptureLoop.h"
 
+#include <optional>
 #include <utility>
 
 #include "capture/AutoStopCountdown.h"
 #include "capture/CaptureWords.h"
 #include "capture/PaneCopy.h"
+#include "capture/RestTracker.h"
 #include "capture/StopKey.h"
 #include "capture/TooltipHint.h"
-#include "settings/ConfigText.h"
+#include "platform/NumberText.h"
 #include "settings/MyKeyboard.h"
 
 namespace capture {
@@ -17,159 +19,176 @@ constexpr std::uint32_t kPassMs = 10;
 constexpr std::uint32_t kMarkerMs = 1000;
 constexpr std::uint32_t kActionMs = 1000;
 
-// After the chime the user gets a moment to see the last text, and the sound one to fade.
+// Time for the user to see the last text after the chime, and time for the sound to fade.
 constexpr std::uint32_t kBeforeHidingMs = 1000;
 constexpr std::uint32_t kAfterHidingMs = 2000;
 
 constexpr std::wstring_view kCapturing = L"取得中・・・・";
 
 std::int32_t ActionKey(const CaptureState& state) {
-  return settings::LeadingNumber(state.ActionKeyCode);
+  return platform::LeadingNumber(state.ActionKeyCode);
 }
 
-}  // namespace
+// One capture from start to end; its members are the state of that capture.
+class Capture {
+ public:
+  Capture(const CaptureContext& context, const std::function<void()>& compose,
+          std::wstring_view commandLine)
+      : context_(context), compose_(compose), commandLine_(commandLine) {}
 
-void ShowStopHint(const CaptureContext& context) {
-  const auto& [state, settings, view, system] = context;
-  view.SetText(ViewText::lblStatus, StopHint(settings.hotkey, settings.actionTest,
-                                             MyKeyboard::KeyName(ActionKey(state))));
+  void Run() {
+    Start();
+    do {
+      Pass();
+    } while (state_.RunState == kGo && state_.CaptureRunning);
+    End();
+  }
+
+ private:
+  void Start();
+  void Pass();
+  void End();
+
+  void RewriteStopHint() const;
+  void UpdateMarkers();
+  void TrackRest();
+  void ReportIfDue() const;
+  void ShowTooltipHint();
+  void CountDown() const;
+  void StopByItself() const;
+  void PollActionKey();
+  bool TargetIsOwnWindow() const;
+  void ClearReport() const;
+
+  const CaptureContext& context_;
+  CaptureState& state_ = context_.state;
+  const settings::Settings& settings_ = context_.settings;
+  CaptureView& view_ = context_.view;
+  CaptureSystem& system_ = context_.system;
+  const std::function<void()>& compose_;
+  const std::wstring_view commandLine_;
+
+  RestTracker rest_;
+  std::optional<std::uint32_t> nowTick_;  // at the end of the previous pass
+  std::uint32_t lastMarkerTick_ = 0;
+  std::uint32_t lastHintTick_ = 0;
+  std::uint32_t lastActionTick_ = 0;
+};
+
+void Capture::Start() {
+  if (AsksForDebugMode(commandLine_)) state_.DebugMode = true;
+  Attempt([&] { view_.SetGoButton(L"停止", L"取得停止"); });
+  Attempt([&] { view_.SetVisible(ViewText::lblStatus, true); });
+  Attempt([&] { view_.FocusTopPane(); });
+  Attempt([&] { view_.EnableTimer(CaptureTimer::Timer_MsgLoop, false); });
+  Attempt([&] { view_.EnableTimer(CaptureTimer::Timer2, true); });
+  state_.CaptureRunning = true;
+  state_.RunState = kGo;
+  state_.StopKeyKept = false;
+  Attempt([&] { state_.TargetWindow = view_.GoButton(); });
+  Attempt([&] { state_.CaptureStartTick = system_.TickCount(); });
+  state_.LastReportTick = state_.CaptureStartTick;
+  Attempt([&] { view_.SetText(ViewText::lblMsg, L"Go"); });
+  Attempt([&] { view_.ShowMarkers(); });
 }
 
-CaptureLoop::CaptureLoop(CaptureContext context, std::function<void()> compose,
-                         std::wstring commandLine)
-    : context_(context), compose_(std::move(compose)), commandLine_(std::move(commandLine)) {}
-
-void CaptureLoop::RunCapture() {
-  if (!context_.state.RunState.empty()) return;
-  Start();
-  Locals locals;
-  do {
-    Pass(locals);
-  } while (context_.state.RunState == kGo && context_.state.CaptureRunning);
-  End();
-}
-
-void CaptureLoop::Start() {
-  auto& [state, settings, view, system] = context_;
-  if (AsksForDebugMode(commandLine_)) state.DebugMode = true;
-  Attempt([&] { view.SetGoButton(L"停止", L"取得停止"); });
-  Attempt([&] { view.SetVisible(ViewText::lblStatus, true); });
-  Attempt([&] { view.FocusTopPane(); });
-  Attempt([&] { view.EnableTimer(CaptureTimer::Timer_MsgLoop, false); });
-  Attempt([&] { view.EnableTimer(CaptureTimer::Timer2, true); });
-  state.CaptureRunning = true;
-  state.RunState = kGo;
-  Attempt([&] { state.TargetWindow = view.GoButton(); });
-  Attempt([&] { state.CaptureStartTick = system.TickCount(); });
-  state.LastReportTick = state.CaptureStartTick;
-  Attempt([&] { view.SetText(ViewText::lblMsg, L"Go"); });
-  Attempt([&] { view.ShowMarkers(); });
-}
-
-void CaptureLoop::Pass(Locals& locals) {
-  auto& [state, settings, view, system] = context_;
+void Capture::Pass() {
   Attempt([&] { RewriteStopHint(); });
-  UpdateMarkers(locals);
-  TrackRest(locals);
+  UpdateMarkers();
+  TrackRest();
   ReportIfDue();
-  Attempt([&] { ShowTooltipHint(locals); });
-  Attempt([&] { system.Sleep(kPassMs); });
-  Attempt([&] { system.Pump(); });
-  CountDown(locals);
+  Attempt([&] { ShowTooltipHint(); });
+  Attempt([&] { system_.Sleep(kPassMs); });
+  Attempt([&] { system_.Pump(); });
+  CountDown();
   Attempt([&] {
-    locals.nowTick = system.TickCount();
-    locals.rest.EndPass(*locals.nowTick);
+    nowTick_ = system_.TickCount();
+    rest_.EndPass(*nowTick_);
   });
   Attempt([&] { PollStopKey(context_); });
-  Attempt([&] { PollActionKey(locals); });
-  Attempt([&] { system.Pump(); });
+  Attempt([&] { PollActionKey(); });
+  Attempt([&] { system_.Pump(); });
 }
 
-void CaptureLoop::RewriteStopHint() {
-  const auto& [state, settings, view, system] = context_;
-  if (state.DebugMode) return;
-  if (settings.continueCapture == 1) {
-    view.SetText(ViewText::lblStatus, {});
-  } else if (!settings.hotkey.empty()) {
+void Capture::RewriteStopHint() const {
+  if (state_.DebugMode) return;
+  if (settings_.continueCapture == 1) {
+    view_.SetText(ViewText::lblStatus, {});
+  } else if (!settings_.hotkey.empty()) {
     ShowStopHint(context_);
   }
 }
 
-void CaptureLoop::UpdateMarkers(Locals& locals) {
-  const auto& [state, settings, view, system] = context_;
-  if (settings.shift == 1) Attempt([&] { view.PlaceMarkers(state.CapturePoint); });
-  // Also while "shift" is 0: this is what hides the markers after it was switched off.
-  const std::uint32_t now = locals.nowTick.value_or(0);
-  if (now - locals.lastMarkerTick <= kMarkerMs) return;
-  Attempt([&] { view.ShowMarkers(); });
-  locals.lastMarkerTick = now;
+void Capture::UpdateMarkers() {
+  if (settings_.shift == 1) Attempt([&] { view_.PlaceMarkers(state_.CapturePoint); });
+  // Also while "shift" is 0, which hides the markers after it was switched off.
+  const std::uint32_t now = nowTick_.value_or(0);
+  if (now - lastMarkerTick_ <= kMarkerMs) return;
+  Attempt([&] { view_.ShowMarkers(); });
+  lastMarkerTick_ = now;
 }
 
-void CaptureLoop::TrackRest(Locals& locals) {
-  CaptureState& state = context_.state;
-  state.ReportState = locals.rest.Observe(state.CapturePoint, locals.nowTick, state.LastReportTick,
-                                          state.ReportState);
-  if (state.RefreshRequest == 1) {
-    state.ReportState = kDue;
-    state.RefreshRequest = 0;
+void Capture::TrackRest() {
+  state_.ReportState =
+      rest_.Observe(state_.CapturePoint, nowTick_, state_.LastReportTick, state_.ReportState);
+  if (state_.RefreshRequest == 1) {
+    state_.ReportState = kDue;
+    state_.RefreshRequest = 0;
   }
 }
 
-bool CaptureLoop::TargetIsOwnWindow() {
-  const auto& [state, settings, view, system] = context_;
-  const HWND main = view.MainWindow();
-  const HWND target = state.TargetWindow;
-  return target == main || system.Parent(target) == main || system.TopParent(target) == main;
+bool Capture::TargetIsOwnWindow() const {
+  const HWND main = view_.MainWindow();
+  const HWND target = state_.TargetWindow;
+  return target == main || system_.Parent(target) == main || system_.TopParent(target) == main;
 }
 
-void CaptureLoop::ClearReport() {
+void Capture::ClearReport() const {
+  // All boxes but txtWin3. Odd, and stays: docs/ODDITIES.md.
   for (const ViewText part :
        {ViewText::txthWnd, ViewText::txtWin0, ViewText::txtWin1, ViewText::txtWin2,
-        ViewText::txtCount, ViewText::TopPane, ViewText::BottomPane}) {
-    Attempt([&] { context_.view.SetText(part, {}); });
+        ViewText::txtCount, ViewText::lblListKind, ViewText::TopPane, ViewText::BottomPane}) {
+    Attempt([&] { view_.SetText(part, {}); });
   }
 }
 
-void CaptureLoop::ReportIfDue() {
-  auto& [state, settings, view, system] = context_;
-  if (state.ReportState != kDue) return;
+void Capture::ReportIfDue() const {
+  if (state_.ReportState != kDue) return;
   bool own = false;
   Attempt([&] { own = TargetIsOwnWindow(); });
   if (own) {
     ClearReport();
   } else {
-    Attempt([&] { view.SetText(ViewText::lblMsg, std::wstring(kCapturing)); });
-    Attempt([&] { system.Pump(); });
-    Attempt([&] { state.LastReportTick = system.TickCount(); });
+    Attempt([&] { view_.SetText(ViewText::lblMsg, std::wstring(kCapturing)); });
+    Attempt([&] { system_.Pump(); });
+    Attempt([&] { state_.LastReportTick = system_.TickCount(); });
     Attempt([&] { compose_(); });
     Attempt([&] {
-      if (view.Text(ViewText::lblMsg) == kCapturing) view.SetText(ViewText::lblMsg, {});
+      if (view_.Text(ViewText::lblMsg) == kCapturing) view_.SetText(ViewText::lblMsg, {});
     });
   }
-  state.ReportState = kReported;
+  state_.ReportState = kReported;
 }
 
-void CaptureLoop::ShowTooltipHint(Locals& locals) {
-  const auto& [state, settings, view, system] = context_;
-  if (settings.hint != 1) return;
-  const std::uint32_t now = locals.nowTick.value_or(0);
-  if (!TooltipIsDue(locals.rest.StillMs(), now, locals.lastHintTick)) return;
-  locals.lastHintTick = now;
-  const std::wstring text = system.TooltipText();
-  if (!text.empty()) view.SetText(ViewText::txtStatus, text);
+void Capture::ShowTooltipHint() {
+  if (settings_.hint != 1) return;
+  const std::uint32_t now = nowTick_.value_or(0);
+  if (!TooltipIsDue(rest_.StillMs(), now, lastHintTick_)) return;
+  lastHintTick_ = now;
+  const std::wstring text = system_.TooltipText();
+  if (!text.empty()) view_.SetText(ViewText::txtStatus, text);
 }
 
-void CaptureLoop::CountDown(const Locals& locals) {
-  CaptureView& view = context_.view;
-  const Countdown countdown = DecideCountdown(context_.settings, locals.rest.StillMs());
+void Capture::CountDown() const {
+  const Countdown countdown = DecideCountdown(settings_, rest_.StillMs());
   switch (countdown.step) {
     case CountdownStep::Clear:
-      Attempt([&] { view.SetText(ViewText::lblAutoStop, {}); });
+      Attempt([&] { view_.SetText(ViewText::lblAutoStop, {}); });
       break;
     case CountdownStep::Keep:
       break;
     case CountdownStep::Show:
-      Attempt([&] { view.SetText(ViewText::lblAutoStop, std::to_wstring(countdown.remaining)); });
+      Attempt([&] { view_.SetText(ViewText::lblAutoStop, std::to_wstring(countdown.remaining)); });
       break;
     case CountdownStep::Stop:
       StopByItself();
@@ -177,37 +196,34 @@ void CaptureLoop::CountDown(const Locals& locals) {
   }
 }
 
-void CaptureLoop::StopByItself() {
-  auto& [state, settings, view, system] = context_;
-  Attempt([&] { view.SetText(ViewText::lblAutoStop, {}); });
-  Attempt([&] { system.Pump(); });
-  if (settings.chime == 1) Attempt([&] { system.PlayChime(settings.chimeFile); });
-  state.CaptureRunning = false;
-  if (settings.autoClose != 1) return;
-  state.RunState = kUnload;
-  Attempt([&] { system.Sleep(kBeforeHidingMs); });
-  Attempt([&] { view.HideMainWindow(); });
-  Attempt([&] { system.Sleep(kAfterHidingMs); });
+void Capture::StopByItself() const {
+  Attempt([&] { view_.SetText(ViewText::lblAutoStop, {}); });
+  Attempt([&] { system_.Pump(); });
+  if (settings_.chime == 1) Attempt([&] { system_.PlayChime(settings_.chimeFile); });
+  state_.CaptureRunning = false;
+  if (settings_.autoClose != 1) return;
+  state_.RunState = kUnload;
+  Attempt([&] { system_.Sleep(kBeforeHidingMs); });
+  Attempt([&] { view_.HideMainWindow(); });
+  Attempt([&] { system_.Sleep(kAfterHidingMs); });
 }
 
-void CaptureLoop::PollActionKey(Locals& locals) {
-  const auto& [state, settings, view, system] = context_;
-  if (settings.actionTest < 1 || !system.IsKeyDown(ActionKey(state))) return;
-  if (system.TickCount() - locals.lastActionTick <= kActionMs) return;
-  Attempt([&] { system.AccAction(settings.actionTest, state.CapturePoint); });
-  // From its end: the message box of an action may stay open for long.
-  locals.lastActionTick = system.TickCount();
+void Capture::PollActionKey() {
+  if (settings_.actionTest < 1 || !system_.IsKeyDown(ActionKey(state_))) return;
+  if (system_.TickCount() - lastActionTick_ <= kActionMs) return;
+  Attempt([&] { system_.AccAction(settings_.actionTest, state_.CapturePoint); });
+  // Counted from the end of the action, because its message box may stay open for long.
+  lastActionTick_ = system_.TickCount();
 }
 
-void CaptureLoop::End() {
-  auto& [state, settings, view, system] = context_;
+void Capture::End() {
   Attempt([&] {
-    switch (settings.clipboard) {
+    switch (settings_.clipboard) {
       case 0:
-        view.SetText(ViewText::lblMsg, L"テキスト選択");
+        view_.SetText(ViewText::lblMsg, L"テキスト選択");
         break;
       case 1:
-        view.SetText(ViewText::lblMsg, L"クリックでクリップボード転送");
+        view_.SetText(ViewText::lblMsg, L"クリックでクリップボード転送");
         break;
       case 2:
         CopyTopPane(context_);
@@ -219,19 +235,37 @@ void CaptureLoop::End() {
         break;
     }
   });
-  state.CaptureRunning = false;
-  Attempt([&] { view.SetGoButton(L"開始", L"Velmora列取得開始"); });
-  Attempt([&] { view.UnloadMarkers(); });
-  Attempt([&] { view.SetVisible(ViewText::lblStatus, false); });
-  Attempt([&] { view.EnableTimer(CaptureTimer::Timer_MsgLoop, true); });
-  // Timer2 may still tick in here and then finds no capture, which clears the target window.
-  Attempt([&] { system.Pump(); });
-  Attempt([&] { view.EnableTimer(CaptureTimer::Timer2, false); });
-  if (state.RunState == kUnload) {
-    Attempt([&] { view.EnableTimer(CaptureTimer::Timer_End, true); });
+  state_.CaptureRunning = false;
+  Attempt([&] { view_.SetGoButton(L"開始", L"Velmora列取得開始"); });
+  Attempt([&] { view_.UnloadMarkers(); });
+  Attempt([&] { view_.SetVisible(ViewText::lblStatus, false); });
+  Attempt([&] { view_.EnableTimer(CaptureTimer::Timer_MsgLoop, true); });
+  // Timer2 may still tick here; it finds no capture running and clears the target window.
+  Attempt([&] { system_.Pump(); });
+  Attempt([&] { view_.EnableTimer(CaptureTimer::Timer2, false); });
+  if (state_.RunState == kUnload) {
+    Attempt([&] { view_.EnableTimer(CaptureTimer::Timer_End, true); });
   }
-  state.RunState.clear();
+  state_.RunState.clear();
   Attempt([&] { ShowStopHint(context_); });
+}
+
+}  // namespace
+
+void ShowStopHint(const CaptureContext& context) {
+  const settings::Settings& set = context.settings;
+  context.view.SetText(
+      ViewText::lblStatus,
+      StopHint(set.hotkey, set.actionTest, MyKeyboard::KeyName(ActionKey(context.state))));
+}
+
+CaptureLoop::CaptureLoop(CaptureContext context, std::function<void()> compose,
+                         std::wstring commandLine)
+    : context_(context), compose_(std::move(compose)), commandLine_(std::move(commandLine)) {}
+
+void CaptureLoop::RunCapture() {
+  if (!context_.state.RunState.empty()) return;
+  Capture(context_, compose_, commandLine_).Run();
 }
 
 }  // namespace capture

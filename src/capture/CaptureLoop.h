@@ -3,11 +3,9 @@
 #pragma once
 
 #include <functional>
-#include <optional>
 #include <string>
 
 #include "capture/CaptureContext.h"
-#include "capture/RestTracker.h"
 
 namespace capture {
 
@@ -24,30 +22,6 @@ class CaptureLoop {
   void RunCapture();
 
  private:
-  // What lives for one capture.
-  struct Locals {
-    RestTracker rest;
-    std::optional<std::uint32_t> nowTick;  // at the end of the pass before
-    std::uint32_t lastMarkerTick = 0;
-    std::uint32_t lastHintTick = 0;
-    std::uint32_t lastActionTick = 0;
-  };
-
-  void Start();
-  void Pass(Locals& locals);
-  void End();
-
-  void RewriteStopHint();
-  void UpdateMarkers(Locals& locals);
-  void TrackRest(Locals& locals);
-  void ReportIfDue();
-  void ShowTooltipHint(Locals& locals);
-  void CountDown(const Locals& locals);
-  void StopByItself();
-  void PollActionKey(Locals& locals);
-  bool TargetIsOwnWindow();
-  void ClearReport();
-
   CaptureContext context_;
   std::function<void()> compose_;
   std::wstring commandLine_;

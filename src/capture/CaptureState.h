@@ -10,7 +10,8 @@
 
 namespace capture {
 
-// Values of RunState beside the empty text, which means idle.
+// Values of RunState beside the empty text, which means idle. Texts as states and flags, here and
+// below, are odd, and stay: docs/ODDITIES.md.
 constexpr std::wstring_view kGo = L"Go";
 constexpr std::wstring_view kUnload = L"Unload";
 
@@ -20,7 +21,7 @@ constexpr std::int32_t kDue = 1;       // a report is due
 constexpr std::int32_t kReported = 2;  // the report for this position is made
 
 struct CaptureState {
-  bool CaptureRunning = false;  // the loop shall go on; anyone may clear it
+  bool CaptureRunning = false;  // the loop should go on; any code may clear it
   std::wstring RunState;        // empty, "Go", or "Unload" when the program is to end
   bool DebugMode = false;
   POINT CapturePoint{};         // the point that is read, in screen pixels
@@ -31,7 +32,8 @@ struct CaptureState {
   std::int32_t TwipsPerPixelY = 0;
 
   std::int32_t ReportState = kMoved;
-  std::int32_t RefreshRequest = 0;     // 1 makes the next pass report anew
+  std::int32_t RefreshRequest = 0;     // 1 makes the next pass report again
+  bool StopKeyKept = false;            // pressed during a report, handled after it
   std::uint32_t CaptureStartTick = 0;  // milliseconds, as GetTickCount counts
   std::uint32_t LastReportTick = 0;
 

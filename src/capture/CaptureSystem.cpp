@@ -45,10 +45,7 @@ class WindowsCaptureSystem : public CaptureSystem {
   bool PutOnClipboard(const std::wstring& text) override {
     return platform::PutTextOnClipboard(owner_, text);
   }
-  void PlayChime(const std::wstring& file) override {
-    ChimeCalls calls;
-    capture::PlayChime(file, calls);
-  }
+  void PlayChime(const std::wstring& file) override { capture::PlayChime(file); }
   std::wstring TooltipText() override { return extract::GetTooltipText(); }
   void AccAction(std::int32_t mode, POINT point) override {
     MyAccessible::AccActionAt(mode, point);

@@ -1,4 +1,4 @@
-// What the capture loop asks Windows and the readers for. Tests put a recorder in its place, which
+// What the capture loop needs from Windows and the readers. Tests replace it by a recorder, which
 // also moves the clock.
 #pragma once
 
@@ -8,12 +8,12 @@
 #include <memory>
 #include <string>
 
+#include "platform/Interface.h"
+
 namespace capture {
 
-class CaptureSystem {
+class CaptureSystem : public platform::Interface {
  public:
-  virtual ~CaptureSystem() = default;
-
   virtual std::uint32_t TickCount() = 0;  // milliseconds, wraps after 49.7 days
   virtual void Sleep(std::uint32_t milliseconds) = 0;
   virtual void Pump() = 0;

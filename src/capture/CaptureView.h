@@ -7,9 +7,11 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/Interface.h"
+
 namespace capture {
 
-// What holds a text. A pane is the member of its pair that is in use.
+// The parts that show a text. A pane is the member of its pair that is in use.
 enum class ViewText {
   lblMsg,
   lblStatus,
@@ -22,7 +24,8 @@ enum class ViewText {
   txtWin3,
   txtCount,
   txtStatus,
-  lblTextKind,
+  lblTextKind,  // the method of the top pane's text
+  lblListKind,  // the method of the list in the bottom pane
   TopPane,
   BottomPane,
 };
@@ -34,7 +37,8 @@ struct TimerInterval {
   std::uint32_t milliseconds;
 };
 
-// All timers of the program. Each is off until it is enabled.
+// All timers of the program. Each is off until it is enabled. The 5 ms, which Windows makes 10, are
+// odd, and stay: docs/ODDITIES.md.
 constexpr TimerInterval kTimers[] = {
     {CaptureTimer::Timer_MsgLoop, 5},
     {CaptureTimer::Timer2, 10},
@@ -42,15 +46,13 @@ constexpr TimerInterval kTimers[] = {
     {CaptureTimer::Timer_End, 10},
 };
 
-class CaptureView {
+class CaptureView : public platform::Interface {
  public:
-  virtual ~CaptureView() = default;
-
   virtual std::wstring Text(ViewText part) const = 0;
   // Shows text; does nothing when the part already shows it.
   virtual void SetText(ViewText part, const std::wstring& text) = 0;
   virtual void SetVisible(ViewText part, bool visible) = 0;
-  // The handle that txthWnd shows, in decimal, whichever way it shows it.
+  // Stores the handle that txthWnd shows, always in decimal.
   virtual void SetHandleTag(const std::wstring& decimal) = 0;
 
   virtual void SetGoButton(const std::wstring& caption, const std::wstring& toolTip) = 0;

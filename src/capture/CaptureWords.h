@@ -7,9 +7,12 @@
 #include <string>
 #include <string_view>
 
+#include "settings/Settings.h"
+
 namespace capture {
 
-// x right-aligned in 4 characters, "-", y right-aligned in 3; longer numbers stand whole.
+// x right-aligned in 4 characters, "-", y right-aligned in 3; longer numbers are not cut. Odd, and
+// stays: docs/ODDITIES.md.
 std::wstring FormatMousePosition(POINT point);
 
 // hotkey & "で停止", with a second line that names the action test when actionTest is 1, 2 or 3.
@@ -22,14 +25,8 @@ std::int32_t PointDistance(POINT p1, POINT p2);
 // Whether the first word of the command line is "debug", ignoring case.
 bool AsksForDebugMode(std::wstring_view commandLine);
 
-// Whether the whole command line, blanks at its ends aside, is "no_start".
-bool ForbidsAutoStart(std::wstring_view commandLine);
-
-// The handle as decimal digits, signed as a 32-bit number; and as upper-case hexadecimal digits.
-std::wstring DecimalHandle(HWND hwnd);
-std::wstring HexHandle(HWND hwnd);
-
-// One of the two, as the setting "win handle" says: "hex", and everything else is decimal.
-std::wstring ShownHandle(HWND hwnd, std::wstring_view winHandle);
+// Whether a capture starts with the program: with the setting "auto start", unless the whole
+// command line, without blanks at its ends, is "no_start". Odd, and stays: docs/ODDITIES.md.
+bool StartsByItself(const settings::Settings& settings, std::wstring_view commandLine);
 
 }  // namespace capture

@@ -6,24 +6,21 @@
 
 namespace capture {
 
-std::wstring ChimeCalls::ProgramFolder() { return API_Shell::ProgramFolder(); }
-
-std::wstring ChimeCalls::WindowsFolder() {
-  return API_Shell::FolderPath(API_Shell::kWindowsFolder);
+std::wstring ChimePath(const std::wstring& file, const std::wstring& programFolder,
+                       const std::wstring& windowsFolder) {
+  for (const std::wstring& folder : {programFolder, windowsFolder + L"\\media"}) {
+    std::wstring path = folder + L"\\" + file;
+    if (platform::IsNormalFile(path)) return path;
+  }
+  return {};
 }
 
-bool ChimeCalls::IsFile(const std::wstring& path) { return platform::IsNormalFile(path); }
-
-void ChimeCalls::Play(const std::wstring& path) { API_Shell::PlaySoundFile(path, false); }
-
-void ChimeCalls::Pump() { platform::Pump(); }
-
-void PlayChime(const std::wstring& file, ChimeCalls& calls) {
-  std::wstring path = calls.ProgramFolder() + L"\\" + file;
-  if (!calls.IsFile(path)) path = calls.WindowsFolder() + L"\\media\\" + file;
-  if (!calls.IsFile(path)) return;
-  calls.Play(path);
-  calls.Pump();
+void PlayChime(const std::wstring& file) {
+  const std::wstring path =
+      ChimePath(file, API_Shell::ProgramFolder(), API_Shell::FolderPath(API_Shell::kWindowsFolder));
+  if (path.empty()) return;
+  API_Shell::PlaySoundFile(path, false);
+  platform::Pump();
 }
 
 }  // namespace capture

@@ -1,28 +1,16 @@
-// The sound that tells that a capture has ended by itself.
+// The sound at the automatic end of a capture.
 #pragma once
 
 #include <string>
 
 namespace capture {
 
-// What playing it asks of Windows; tests put a recorder in its place. Folders are without a
-// trailing backslash.
-class ChimeCalls {
- public:
-  ChimeCalls() = default;
-  ChimeCalls(const ChimeCalls&) = delete;
-  ChimeCalls& operator=(const ChimeCalls&) = delete;
-  virtual ~ChimeCalls() = default;
+// The file of that name beside the program, else the one that came with Windows; empty when there
+// is neither. Folders are without a trailing backslash.
+std::wstring ChimePath(const std::wstring& file, const std::wstring& programFolder,
+                       const std::wstring& windowsFolder);
 
-  virtual std::wstring ProgramFolder();
-  virtual std::wstring WindowsFolder();
-  virtual bool IsFile(const std::wstring& path);
-  virtual void Play(const std::wstring& path);  // returns when the sound is over
-  virtual void Pump();
-};
-
-// Plays the file of that name beside the program, else the one that came with Windows, once to its
-// end, and pumps. Where there is neither, nothing happens.
-void PlayChime(const std::wstring& file, ChimeCalls& calls);
+// Plays that file once to its end, and pumps. Without a file nothing happens.
+void PlayChime(const std::wstring& file);
 
 }  // namespace capture

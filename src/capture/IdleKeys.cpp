@@ -5,15 +5,17 @@
 namespace capture {
 
 void PollIdleKeys(const CaptureContext& context) {
-  const auto& [state, settings, view, system] = context;
-  if (system.HotKeyPressed(MySub_HotKey::HotKeyCode(settings.hotkey))) {
+  CaptureState& state = context.state;
+  CaptureView& view = context.view;
+  CaptureSystem& system = context.system;
+  if (system.HotKeyPressed(MySub_HotKey::HotKeyCode(context.settings.hotkey))) {
     if (state.CaptureRunning) {
       state.CaptureRunning = false;
       state.RunState.clear();
     } else {
       view.EnableTimer(CaptureTimer::Timer_Go, true);
     }
-  } else if (system.HotKeyPressed(MySub_HotKey::kAltT) && settings.enableHotT == 1) {
+  } else if (system.HotKeyPressed(MySub_HotKey::kAltT) && context.settings.enableHotT == 1) {
     view.BringToFront();
     view.FocusTopPane();
   } else if (system.HotKeyPressed(MySub_HotKey::kCtrlA) &&

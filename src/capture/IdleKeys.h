@@ -5,9 +5,9 @@
 
 namespace capture {
 
-// In this order, the first that was pressed: the hot key starts a capture, Alt+T brings the main
-// window to the front, Ctrl+A selects the whole text of the box that has the focus when the main
-// window is in front.
+// Handles the first of these keys that was pressed: the hot key starts a capture, Alt+T brings the
+// main window to the front, Ctrl+A selects the whole text of the box that has the focus when the
+// main window is in front.
 void PollIdleKeys(const CaptureContext& context);
 
 }  // namespace capture

@@ -6,7 +6,7 @@
 namespace capture {
 
 // While a capture runs: notes the point to read, the window at it, and shows the pointer's
-// position. Otherwise there is no target window.
+// position. Otherwise clears the target window.
 void SamplePointer(const CaptureContext& context);
 
 }  // namespace capture

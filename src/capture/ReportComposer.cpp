@@ -1,14 +1,15 @@
 #include "capture/ReportComposer.h"
 
 #include <functional>
-#include <memory>
+#include <optional>
 #include <utility>
 
 #include "capture/CaptureWords.h"
-#include "capture/ElementTable.h"
 #include "capture/OutputDelivery.h"
 #include "capture/StopKey.h"
 #include "extract/StringUtilities.h"
+#include "platform/HandleText.h"
+#include "report/ElementTable.h"
 
 namespace capture {
 namespace {
@@ -19,20 +20,22 @@ constexpr std::wstring_view kLineMark = L"\x01";
 // One report from its first step to its last.
 class Report {
  public:
-  Report(const CaptureContext& context, ReportReaders& readers)
+  Report(const CaptureContext& context, report::ReportReaders& readers)
       : context_(context),
         readers_(readers),
-        // Readers pump, and the pump lets the target move on; this report stays where it began.
+        delivery_(context.view),
+        // Readers pump messages, which may change the target; this report keeps its own.
         target_(context.state.TargetWindow),
-        point_(context.state.CapturePoint) {}
+        point_(context.state.CapturePoint),
+        window_{target_, {}, {}, {}} {}
 
   void Compose() {
     ShowHandle();
     ReadWindow();
     ClearSlots();
     ReadTextAtPoint();
-    if (category_ == Category::Ie) {
-      // The report on an element stands where the window's information would.
+    if (category_ == report::Category::Ie) {
+      // The element report takes the slot of the window's information.
       if (!ReadPage()) ShowWindowInformation();
     } else {
       ReadList();
@@ -49,93 +52,98 @@ class Report {
   void SetText(ViewText part, const std::wstring& text) const {
     Attempt([&] { context_.view.SetText(part, text); });
   }
-  void Redisplay() const {
-    Attempt([&] { RedisplayPanes(State(), Set(), context_.view); });
+  void Redisplay() {
+    Attempt([&] { delivery_.RedisplayPanes(State(), Set()); });
+  }
+
+  std::function<void(const std::wstring&)> MessageLine() const {
+    return [this](const std::wstring& message) { SetText(ViewText::lblMsg, message); };
   }
 
   void ShowHandle() const {
-    Attempt([&] { context_.view.SetHandleTag(DecimalHandle(target_)); });
-    SetText(ViewText::txthWnd, ShownHandle(target_, Set().winHandle));
+    Attempt([&] { context_.view.SetHandleTag(platform::DecimalHandle(target_)); });
+    SetText(ViewText::txthWnd, platform::ShownHandle(target_, Set().winHandle));
   }
 
   void ReadWindow() {
     Attempt([&] { window_ = readers_.Facts(target_); });
     SetText(ViewText::txtWin0, window_.className);
-    category_ = CategoryOf(window_.className);
+    category_ = report::CategoryOf(window_.className);
   }
 
-  // Whether the target can be asked what its thread must answer, without end if it hangs. Pages
-  // hang more often than anything else, and whoever reads them has waited for them already.
+  // Whether it is safe to make calls that wait for the target's thread. Only pages are tested: they
+  // hang most often, and their reader has waited for them already.
   bool Answers() const {
     bool answers = true;
-    if (category_ == Category::Ie) Attempt([&] { answers = readers_.Answers(target_); });
+    if (category_ == report::Category::Ie) Attempt([&] { answers = readers_.Answers(target_); });
     return answers;
   }
 
   void ClearSlots() const {
-    // With their memory: one huge text would keep it until the program ends.
+    // Frees their memory too: a huge text would keep it until the program ends.
     for (std::wstring& text : State().TopTexts) std::wstring().swap(text);
     for (std::wstring& text : State().BottomTexts) std::wstring().swap(text);
     SetText(ViewText::txtCount, {});
+    SetText(ViewText::lblListKind, {});
     Attempt([&] { context_.view.SetVisible(ViewText::txtCount, true); });
   }
 
   void ReadTextAtPoint() const {
-    std::wstring text;
-    std::wstring method;
+    extract::TextReading reading;
     Attempt([&] {
       if (Set().fromHwnd != 1) {
-        text = readers_.TextFromPoint(point_, method, [this](const std::wstring& message) {
-          SetText(ViewText::lblMsg, message);
-        });
+        reading = readers_.TextFromPoint(point_, MessageLine());
       } else if (Answers()) {
-        text = readers_.NameOfWindow(target_);
+        reading.text = readers_.NameOfWindow(target_);
       }
     });
-    SetText(ViewText::txtWin3, text);
-    SetText(ViewText::lblTextKind, method);
-    State().TopTexts[2] = WithLineEnds(text);
+    SetText(ViewText::txtWin3, reading.text);
+    SetText(ViewText::lblTextKind, reading.method);
+    State().TopTexts[2] = WithLineEnds(reading.text);
   }
 
   HWND WindowOfDocument() const {
     HWND parent = nullptr;
     Attempt([&] { parent = context_.system.Parent(target_); });
-    return DocumentWindow(window_.className, target_, parent);
+    return report::DocumentWindow(window_.className, target_, parent);
   }
 
-  // Returns whether there is a page. The window of a browser counts as one also when it gives no
-  // document.
-  bool ReadPage() const {
+  void Keep(const MyInternetexplore::PageTexts& texts) const {
+    State().BottomTexts[3] = texts.displayed;
+    State().BottomTexts[2] = texts.markup;
+    Attempt([&] { context_.system.Pump(); });
+  }
+
+  // Returns whether there is a page. The flag in BottomTexts[0] is set also when the window of a
+  // browser gives no document.
+  bool ReadPage() {
     State().BottomTexts[0] = L"1";
     Attempt([&] { context_.view.SetVisible(ViewText::txtCount, false); });
     const HWND window = WindowOfDocument();
     if (window == nullptr) return false;
-    std::unique_ptr<MyInternetexplore::PageReader> page;
-    Attempt([&] { page = readers_.Page(window, point_); });
+    const platform::ReadSession session = Session([](const std::wstring&) {});
+    std::optional<MyInternetexplore::PageFacts> page;
+    Attempt([&] {
+      page = readers_.Page({window, point_, session, MessageLine(),
+                            [this](const MyInternetexplore::PageTexts& texts) { Keep(texts); }});
+    });
     if (!page) return false;
 
-    MyInternetexplore::PageTexts texts;
-    Attempt([&] { texts = page->Texts(); });
-    State().BottomTexts[3] = std::move(texts.displayed);
-    State().BottomTexts[2] = std::move(texts.markup);
-    Attempt([&] { context_.system.Pump(); });
-
-    MyInternetexplore::PageFacts facts;
-    Attempt([&] { facts = page->Facts(Session([](const std::wstring&) {})); });
-    State().BottomTexts[1] = ElementReport(facts, Set().htmlTagTextLength);
-    SetText(ViewText::txtWin1, facts.chain.empty()
+    State().BottomTexts[1] = report::ElementReport(*page, Set().htmlTagTextLength);
+    SetText(ViewText::txtWin1, page->chain.empty()
                                    ? std::wstring()
-                                   : facts.framePath + L"　" + facts.chain.back().tag);
+                                   : page->framePath + L"　" + page->chain.back().tag);
     SetText(ViewText::lblTextKind, L"HTML");
-    Redisplay();
+    // The top pane is not redisplayed until its text is read.
+    Attempt([&] { delivery_.RefreshBottomPane(State(), Set()); });
     return true;
   }
 
   // Between two items: a reading may take minutes, and the pointer, the buttons and the stop key
-  // are served meanwhile.
+  // must work meanwhile.
   void LetGoOn() const {
     Attempt([&] { context_.system.Pump(); });
-    Attempt([&] { PollStopKey(context_); });
+    Attempt([&] { PollStopKeyBetweenItems(context_); });
   }
 
   platform::ReadSession Session(std::function<void(const std::wstring&)> showProgress) const {
@@ -144,17 +152,15 @@ class Report {
   }
 
   void ReadList() {
-    std::wstring text;
-    std::wstring method;
-    platform::ReadSession session = Session([this](const std::wstring& progress) {
+    extract::TextReading reading;
+    const platform::ReadSession session = Session([this](const std::wstring& progress) {
       count_ = progress;
       SetText(ViewText::txtCount, progress);
     });
-    Attempt([&] {
-      text = ReadByCategory(readers_, category_, {target_, point_, session, method});
-    });
+    Attempt([&] { reading = readers_.Control(category_, {target_, point_, session}); });
+    SetText(ViewText::lblListKind, reading.method);
     State().BottomTexts[1].clear();
-    State().BottomTexts[2] = std::move(text);
+    State().BottomTexts[2] = std::move(reading.text);
     Redisplay();
     Attempt([&] { context_.system.Pump(); });
   }
@@ -162,13 +168,13 @@ class Report {
   void ShowWindowInformation() const {
     Attempt([&] {
       State().BottomTexts[1] =
-          WindowInformationText(readers_.Information(window_), Set().winHandle);
+          report::WindowInformationText(readers_.Information(window_), Set().winHandle);
     });
     SetText(ViewText::txtWin1, {});
   }
 
-  void ReadAccessible() const {
-    AccessibleTexts texts;
+  void ReadAccessible() {
+    report::AccessibleTexts texts;
     bool counted = false;
     const platform::ReadSession session = Session([&](const std::wstring& progress) {
       counted = true;
@@ -176,11 +182,11 @@ class Report {
     });
     Attempt([&] {
       if (!Answers()) return;
-      texts = readers_.Accessible(Set().fromHwnd == 1 ? target_ : nullptr, point_, session);
+      texts = readers_.Accessible(Set().fromHwnd == 1 ? &window_ : nullptr, point_, session);
     });
     State().TopTexts[1] = std::move(texts.report);
     SetText(ViewText::txtWin2, texts.name);
-    // The number of the list's items is what is left standing.
+    // Shows the number of the list's items again.
     if (counted) SetText(ViewText::txtCount, count_);
     Redisplay();
   }
@@ -190,17 +196,18 @@ class Report {
     SetText(ViewText::txtStatus, {});
     std::wstring text;
     Attempt([&] {
-      if (Answers()) text = readers_.StatusText(target_, window_.className, window_.title);
+      if (Answers()) text = readers_.StatusText(window_);
     });
     SetText(ViewText::txtStatus, text);
   }
 
   const CaptureContext& context_;
-  ReportReaders& readers_;
+  report::ReportReaders& readers_;
+  PaneDelivery delivery_;
   const HWND target_;
   const POINT point_;
-  WindowFacts window_;
-  Category category_ = Category::Other;
+  report::WindowFacts window_;
+  report::Category category_ = report::Category::Other;
   std::wstring count_;  // what the list's reader showed last
 };
 
@@ -208,7 +215,7 @@ class Report {
 
 std::wstring WithLineEnds(std::wstring_view text) { return extract::WithCrLf(text, kLineMark); }
 
-void ComposeReport(const CaptureContext& context, ReportReaders& readers) {
+void ComposeReport(const CaptureContext& context, report::ReportReaders& readers) {
   Report(context, readers).Compose();
 }
 

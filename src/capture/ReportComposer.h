@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "capture/CaptureContext.h"
-#include "capture/ReportReaders.h"
+#include "report/ReportReaders.h"
 
 namespace capture {
 
@@ -14,6 +14,6 @@ std::wstring WithLineEnds(std::wstring_view text);
 
 // Reports on the target window. A step that fails leaves what it would have filled empty, and the
 // report goes on.
-void ComposeReport(const CaptureContext& context, ReportReaders& readers);
+void ComposeReport(const CaptureContext& context, report::ReportReaders& readers);
 
 }  // namespace capture

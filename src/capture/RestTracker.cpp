@@ -16,7 +16,7 @@ std::int32_t RestTracker::Observe(POINT point, std::optional<std::uint32_t> nowT
     stillSinceTick_ = nowTick;
     return kMoved;
   }
-  // Differences of unsigned ticks stay right when the counter wraps.
+  // Differences of unsigned ticks stay correct when the counter wraps.
   if (stillSinceTick_) stillMs_ = *nowTick - *stillSinceTick_;
   const bool repeat = *nowTick - lastReportTick >= kRepeatMs;
   const bool rested = stillMs_ >= kRestMs && reportState == kMoved;

@@ -9,11 +9,11 @@
 namespace capture {
 
 constexpr std::uint32_t kRestMs = 50;        // rest that makes a report due
-constexpr std::uint32_t kRepeatMs = 30'000;  // a resting point is reported anew after this
+constexpr std::uint32_t kRepeatMs = 30'000;  // a resting point is reported again after this
 
 class RestTracker {
  public:
-  // One pass: the point as it is now, the tick at the end of the pass before (none in the first
+  // One pass: the point as it is now, the tick at the end of the previous pass (none in the first
   // pass) and the tick of the last report. Returns the new ReportState.
   std::int32_t Observe(POINT point, std::optional<std::uint32_t> nowTick,
                        std::uint32_t lastReportTick, std::int32_t reportState);
@@ -22,7 +22,7 @@ class RestTracker {
   void EndPass(std::uint32_t nowTick);
 
   // Milliseconds that the point had rested when it was last seen at rest. A movement does not
-  // reset it; the next pass at rest does.
+  // reset it, the next pass at rest does. Odd, and stays: docs/ODDITIES.md.
   std::uint32_t StillMs() const { return stillMs_; }
 
  private:

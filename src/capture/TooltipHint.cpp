@@ -3,7 +3,7 @@
 namespace capture {
 namespace {
 
-// A tool tip appears after half a second of rest; later it is old news.
+// A tool tip appears after half a second of rest; later it need not be read again.
 constexpr std::uint32_t kFromMs = 501;
 constexpr std::uint32_t kUntilMs = 3000;
 constexpr std::uint32_t kPauseMs = 100;

@@ -3,9 +3,9 @@
 namespace extract {
 
 std::int32_t ControlMessages::Send(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-  // Handles come from controls, too, and none may make this a message to every window there is.
+  // Some handles come from controls of other programs; none may turn this into a broadcast.
   const LRESULT answer = hwnd == HWND_BROADCAST ? 0 : SendMessageW(hwnd, message, wParam, lParam);
-  // A window that is gone answers 0, which is also what many a window answers.
+  // A window that is gone gives 0, but 0 is also a valid answer.
   if (answer == 0 && !IsWindow(hwnd)) throw TargetLost();
   return static_cast<std::int32_t>(answer);
 }

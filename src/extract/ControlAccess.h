@@ -1,4 +1,4 @@
-// How the readers of items reach a control: by messages, and by memory of its process.
+// How the readers of items reach a control: by messages, and through memory of its process.
 #pragma once
 
 #include <windows.h>
@@ -7,21 +7,17 @@
 #include <exception>
 
 #include "extract/MemoryCalls.h"
+#include "platform/Interface.h"
 
 namespace extract {
 
 // A control or its process is gone.
 class TargetLost : public std::exception {};
 
-class ControlMessages {
+class ControlMessages : public platform::Interface {
  public:
-  ControlMessages() = default;
-  ControlMessages(const ControlMessages&) = delete;
-  ControlMessages& operator=(const ControlMessages&) = delete;
-  virtual ~ControlMessages() = default;
-
-  // Waits as long as the window takes. Controls answer in 32 bits, so -1 comes as -1 whatever the
-  // bitness of the other side. Throws TargetLost when there is no such window.
+  // Waits until the window answers. Controls answer in 32 bits, so -1 arrives as -1 from a 64-bit
+  // process too. Throws TargetLost when there is no such window.
   virtual std::int32_t Send(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
   // The process of the window; 0 when there is no such window.
@@ -36,7 +32,7 @@ struct ControlAccess {
   MyMapView::MemoryCalls& memory;
 };
 
-// The one that reaches the real controls.
+// The access to real controls.
 const ControlAccess& SystemAccess();
 
 }  // namespace extract

@@ -7,30 +7,22 @@
 #include "accessibility/MyAccessible.h"
 #include "extract/StringUtilities.h"
 #include "extract/Win32API_Window.h"
+#include "platform/WindowEnumeration.h"
 
 namespace extract {
 namespace {
 
-struct WindowSearch {
-  std::wstring_view classPart;
-  std::vector<HWND> found;
-};
-
-BOOL CALLBACK CollectIfVisible(HWND hwnd, LPARAM context) noexcept {
-  auto& search = *reinterpret_cast<WindowSearch*>(context);
-  if (IsWindowVisible(hwnd) &&
-      ContainsIgnoringCase(Win32API_Window::MyGetClassName(hwnd), search.classPart)) {
-    search.found.push_back(hwnd);
-  }
-  return TRUE;
-}
-
 // The visible top-level windows whose class name contains classPart, sorted by handle.
 std::vector<HWND> VisibleTopLevelWindows(std::wstring_view classPart) {
-  WindowSearch search{classPart, {}};
-  EnumWindows(CollectIfVisible, reinterpret_cast<LPARAM>(&search));
-  std::ranges::sort(search.found);
-  return search.found;
+  std::vector<HWND> found;
+  platform::ForEachWindow([&](HWND hwnd) {
+    if (IsWindowVisible(hwnd) &&
+        ContainsIgnoringCase(Win32API_Window::MyGetClassName(hwnd), classPart)) {
+      found.push_back(hwnd);
+    }
+  });
+  std::ranges::sort(found);
+  return found;
 }
 
 constexpr std::wstring_view kTooltipClasses[] = {L"tooltip", L"vbbubblert6"};
@@ -42,29 +34,29 @@ std::wstring MyGetControlText(HWND hwnd) {
   return name.empty() ? Win32API_Window::WindowTextByMessage(hwnd) : name;
 }
 
-std::wstring MyGetEditItem(HWND hwnd, std::wstring& method) {
+Method MyGetEditItem(HWND hwnd, platform::ItemSink& sink) {
   const std::wstring text = Win32API_Window::WindowTextByMessage(hwnd);
-  if (!text.empty()) method = L"WM_GETTEXT";
-  return text;
+  if (text.empty()) return {};
+  sink.Text(text);
+  return L"WM_GETTEXT";
 }
 
-std::wstring GetChildText(HWND hwnd, std::wstring& method) {
-  std::wstring result = MyGetControlText(hwnd);
+Method GetChildText(HWND hwnd, platform::ItemSink& sink) {
+  // No line end after it. Odd, and stays: docs/ODDITIES.md.
+  sink.Text(MyGetControlText(hwnd));
   for (HWND child = GetWindow(hwnd, GW_CHILD); child != nullptr;
        child = GetWindow(child, GW_HWNDNEXT)) {
     const std::wstring text = MyGetControlText(child);
-    if (!text.empty()) result += text + L"\r\n";
+    if (!text.empty()) PutItem(sink, text);
   }
-  method = L"Accessible";
-  return result;
+  // Whichever call gave the texts. Odd, and stays: docs/ODDITIES.md.
+  return kByAccessibleObject;
 }
 
-std::wstring GetOther(HWND hwnd, const ChildrenListing& listing, std::wstring& method) {
-  // Also when it says that it failed: that is what the user sees then.
-  std::wstring names = listing(hwnd);
-  if (names.empty()) return GetChildText(hwnd, method);
-  method = L"Accessible";
-  return names;
+Method GetOther(HWND hwnd, const ChildrenListing& listing, platform::ItemSink& sink) {
+  // Also the mark of a failed listing: the user should see it.
+  listing(sink);
+  return sink.Size() == 0 ? GetChildText(hwnd, sink) : kByAccessibleObject;
 }
 
 HWND GethWndTooltips() {

@@ -1,5 +1,5 @@
-// The text of a control, of its children, and of the visible tool tip. None of them raises or shows
-// anything; what cannot be read is empty.
+// The text of a control, of its children, and of the visible tool tip. Nothing here throws or shows
+// a message; what cannot be read is empty.
 #pragma once
 
 #include <windows.h>
@@ -7,25 +7,27 @@
 #include <functional>
 #include <string>
 
+#include "extract/ItemReading.h"
+
 namespace extract {
 
 // The name of the window's own accessible object; when that is empty, the window's text.
 std::wstring MyGetControlText(HWND hwnd);
 
-// The window's text by WM_GETTEXT; method then becomes "WM_GETTEXT" and stays as it was when there
-// is none.
-std::wstring MyGetEditItem(HWND hwnd, std::wstring& method);
+// The window's text by WM_GETTEXT. The method is "WM_GETTEXT", and empty when there is no text.
+Method MyGetEditItem(HWND hwnd, platform::ItemSink& sink);
 
-// The window's own text directly followed by the texts of its children, in Z order, each with its
-// CR LF; children without a text are left out, theirs are not visited. method becomes "Accessible".
-std::wstring GetChildText(HWND hwnd, std::wstring& method);
+// The window's own text directly followed by the texts of its children, in Z order, each a row;
+// children without a text are left out, and grandchildren are not visited. The method is
+// "Accessible".
+Method GetChildText(HWND hwnd, platform::ItemSink& sink);
 
-// Lists the names of a window's accessible children.
-using ChildrenListing = std::function<std::wstring(HWND)>;
+// Lists the names of the window's accessible children.
+using ChildrenListing = std::function<void(platform::ItemSink& sink)>;
 
-// For windows of no known kind: the listing of the accessible children as it is, method then
-// becoming "Accessible"; GetChildText only when that is empty.
-std::wstring GetOther(HWND hwnd, const ChildrenListing& listing, std::wstring& method);
+// For windows of unknown kinds: the listing of the accessible children, and GetChildText only when
+// that is empty. The method is "Accessible".
+Method GetOther(HWND hwnd, const ChildrenListing& listing, platform::ItemSink& sink);
 
 // The visible tool-tip window; null when none is shown.
 HWND GethWndTooltips();

@@ -1,14 +1,14 @@
 #include "extract/CsvText.h"
 
-#include "extract/ItemReading.h"
+#include "platform/LineEnd.h"
 
 namespace extract {
 namespace {
 
-constexpr std::wstring_view kRowEnd = L"\r\n";
+using platform::kCrLf;
 
-// Takes the part before the first separator, and the separator, off rest. Without a separator,
-// all of rest, which then has no data at all.
+// Removes the part before the first separator, and the separator, from rest, and returns the part.
+// Without a separator that is all of rest, whose data() is null afterwards.
 std::wstring_view Take(std::wstring_view& rest, std::wstring_view separator) {
   const std::size_t end = rest.find(separator);
   const std::wstring_view part = rest.substr(0, end);
@@ -35,16 +35,20 @@ void AppendRow(std::wstring_view row, std::wstring& csv) {
     csv += L',';
     AppendCell(Take(row, L"\t"), csv);
   }
-  csv += kRowEnd;
+  csv += kCrLf;
 }
 
 }  // namespace
 
 std::wstring ToCsv(std::wstring_view text) {
-  return Collected([&](std::wstring& csv) {
-    if (text.empty()) return;
-    while (text.data() != nullptr) AppendRow(Take(text, kRowEnd), csv);
-  });
+  std::wstring csv;
+  if (text.empty()) return csv;
+  try {
+    while (text.data() != nullptr) AppendRow(Take(text, kCrLf), csv);
+  } catch (...) {
+    // What fits into memory is better than nothing.
+  }
+  return csv;
 }
 
 }  // namespace extract

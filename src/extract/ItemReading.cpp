@@ -7,9 +7,10 @@ constexpr std::size_t kLongestText = 1U << 26;
 
 }  // namespace
 
-bool Interrupted(HWND hwnd, const platform::ReadSession& session, std::wstring& text) {
-  if (session.target == hwnd && text.size() <= kLongestText) return false;
-  text += platform::kInterrupted;
+bool Interrupted(const platform::ReadSession& session, platform::ReadUntil end,
+                 platform::ItemSink& sink) {
+  if (session.GoesOn(end) && sink.Size() <= kLongestText) return false;
+  sink.EndWith(platform::Ending::kInterrupted);
   return true;
 }
 
@@ -18,8 +19,7 @@ void Progress(const platform::ReadSession& session, std::int32_t done, std::wstr
   std::wstring text = std::to_wstring(done);
   text += separator;
   text += std::to_wstring(total);
-  session.showProgress(text);
-  session.yield();
+  session.Step(text);
 }
 
 }  // namespace extract

@@ -1,5 +1,5 @@
-// What the readers of items have in common: when they stop, what they show meanwhile, and that
-// they give what they have when something fails.
+// What the readers of items share: when they stop, how they show their progress, and that a failure
+// leaves what was read.
 #pragma once
 
 #include <windows.h>
@@ -8,31 +8,38 @@
 #include <string>
 #include <string_view>
 
+#include "platform/ItemSink.h"
 #include "platform/ReadSession.h"
 
 namespace extract {
 
-// No control has more buttons or tabs: a count beyond this is not believed.
+// The method that read a text, as users see it: the message's name, or "Accessible". Empty when
+// nothing was read.
+using Method = std::wstring_view;
+
+constexpr Method kByAccessibleObject = L"Accessible";
+
+// Larger counts of buttons or tabs are limited to this.
 constexpr std::int32_t kMostParts = 1 << 16;
 
-// Whether the reading of hwnd shall stop, because the capture is on another window by now or the
-// text has grown beyond what this program can show (64 Mi characters: a control that claims two
-// billion items). If so, the mark of an interruption is appended.
-bool Interrupted(HWND hwnd, const platform::ReadSession& session, std::wstring& text);
+// Whether the reading stops, because of the session or because the text has grown beyond what this
+// program can show (64 Mi characters: a control that claims two billion items). If so, the sink
+// gets the mark of an interruption.
+bool Interrupted(const platform::ReadSession& session, platform::ReadUntil end,
+                 platform::ItemSink& sink);
 
-// Shows how far the reading is and lets the program go on.
+// After an item: shows the progress and yields.
 void Progress(const platform::ReadSession& session, std::int32_t done, std::wstring_view separator,
               std::int32_t total);
 
-// The text that read(text) collects; when it fails, what it had collected until then.
+// What read() returns; nothing when it fails.
 template <typename Read>
-std::wstring Collected(Read&& read) {
-  std::wstring text;
+Method MethodOf(Read&& read) {
   try {
-    read(text);
+    return read();
   } catch (...) {
+    return {};
   }
-  return text;
 }
 
 }  // namespace extract

@@ -6,7 +6,6 @@
 #include <optional>
 #include <string_view>
 
-#include "extract/ItemReading.h"
 #include "platform/GuardedBuffer.h"
 
 namespace extract {
@@ -18,7 +17,7 @@ struct ListKind {
   UINT text;
   DWORD ownerDrawn;  // style bits, any of them
   DWORD hasTexts;    // style bit: texts in spite of that
-  const wchar_t* label;
+  Method label;
 };
 
 constexpr ListKind kListBox{LB_GETCOUNT,    LB_GETTEXTLEN,
@@ -29,23 +28,20 @@ constexpr ListKind kComboBox{CB_GETCOUNT,    CB_GETLBTEXTLEN,
                              CBS_HASSTRINGS, L"CB_GETLBTEXT"};
 
 constexpr std::size_t kLeastBuffer = 1024;
-// A length beyond this is not believed.
+// A greater length counts as unknown.
 constexpr std::int32_t kLongestItem = 1 << 24;
 // An item may have grown between the message that asks for its length and the one for its text.
 constexpr std::size_t kRoom = 1U << 16;
 
-// The characters to keep ready for an item that is said to be that long.
+// The size of the buffer, in characters, for an item of that announced length.
 std::size_t BufferFor(std::int32_t length) {
   const bool believed = length > 0 && length <= kLongestItem;
   return std::max(believed ? static_cast<std::size_t>(length) : 0U, kLeastBuffer) + kRoom;
 }
 
-// The length that stands for a value of the owner's, in a 32-bit and in a 64-bit target.
+// Whether that is the size of a value of the owner's, in a 32-bit or a 64-bit target, and not of a
+// text.
 bool IsDataSize(std::int32_t length) { return length == 4 || length == 8; }
-
-// Failing items neither show progress nor yield, so a control that gives nothing must not keep
-// the reader for as long as its count says.
-constexpr int kMostFailures = 1000;
 
 class ItemSource {
  public:
@@ -57,22 +53,23 @@ class ItemSource {
 
   std::int32_t Count() const { return messages_.Send(hwnd_, kind_.count, 0, 0); }
 
-  // Valid until the next call; nothing when the control does not give the item. The texts are
-  // asked for in UTF-16, which is what a control of another process delivers in any case.
+  // Valid until the next call; empty when the control does not give the item, and nothing when what
+  // it gives is not a text. The texts are requested in UTF-16, which is what a control of another
+  // process delivers in any case.
   std::optional<std::wstring_view> Item(std::int32_t index) {
     const WPARAM item = static_cast<WPARAM>(index);
     const std::int32_t told = messages_.Send(hwnd_, kind_.length, item, 0);
     if (givesData_ && IsDataSize(told)) return std::nullopt;
     buffer_.Reserve(BufferFor(told));
-    // What the item before left.
+    // Clears the previous item.
     std::wmemset(buffer_.Data(), L'\0', used_);
-    const std::int32_t answer =
-        messages_.Send(hwnd_, kind_.text, item, reinterpret_cast<LPARAM>(buffer_.Data()));
+    // The answer does not matter: the text is what was written.
+    messages_.Send(hwnd_, kind_.text, item, reinterpret_cast<LPARAM>(buffer_.Data()));
     const wchar_t* const end = std::wmemchr(buffer_.Data(), L'\0', buffer_.Size());
     const std::size_t length =
         end == nullptr ? buffer_.Size() : static_cast<std::size_t>(end - buffer_.Data());
     used_ = std::max(length, kLeastBuffer);
-    if (answer < 0 || end == nullptr) return std::nullopt;
+    if (end == nullptr) return std::nullopt;
     return std::wstring_view(buffer_.Data(), length);
   }
 
@@ -85,37 +82,31 @@ class ItemSource {
   std::size_t used_ = 0;
 };
 
-std::wstring ReadItems(const ListKind& kind, HWND hwnd, const platform::ReadSession& session,
-                       std::wstring& method, const ControlAccess& access) {
-  return Collected([&](std::wstring& text) {
+Method ReadItems(const ListKind& kind, HWND hwnd, const platform::ReadSession& session,
+                 platform::ItemSink& sink, const ControlAccess& access) {
+  return MethodOf([&]() -> Method {
     ItemSource source(kind, hwnd, access.messages);
     const std::int32_t count = source.Count();
-    int failures = 0;
-    for (std::int32_t i = 0; i < count && failures < kMostFailures; ++i) {
-      if (Interrupted(hwnd, session, text)) break;
-      const std::optional<std::wstring_view> item = source.Item(i);
-      if (!item) {
-        ++failures;
-        continue;
-      }
-      failures = 0;
-      text.append(*item).append(L"\r\n");
+    for (std::int32_t i = 0; i < count; ++i) {
+      if (Interrupted(session, platform::ReadUntil::kPointerLeaves, sink)) break;
+      if (const std::optional<std::wstring_view> item = source.Item(i)) PutItem(sink, *item);
+      // The last item shows two equal numbers. Odd, and stays: docs/ODDITIES.md.
       Progress(session, i, L"/", count - 1);
     }
-    method = kind.label;
+    return kind.label;
   });
 }
 
 }  // namespace
 
-std::wstring MyGetListBoxItem(HWND hwnd, const platform::ReadSession& session, std::wstring& method,
-                              const ControlAccess& access) {
-  return ReadItems(kListBox, hwnd, session, method, access);
+Method MyGetListBoxItem(HWND hwnd, const platform::ReadSession& session, platform::ItemSink& sink,
+                        const ControlAccess& access) {
+  return ReadItems(kListBox, hwnd, session, sink, access);
 }
 
-std::wstring MyGetComboBoxItem(HWND hwnd, const platform::ReadSession& session,
-                               std::wstring& method, const ControlAccess& access) {
-  return ReadItems(kComboBox, hwnd, session, method, access);
+Method MyGetComboBoxItem(HWND hwnd, const platform::ReadSession& session, platform::ItemSink& sink,
+                         const ControlAccess& access) {
+  return ReadItems(kComboBox, hwnd, session, sink, access);
 }
 
 }  // namespace extract

@@ -1,18 +1,15 @@
-// The system calls behind the memory of other processes, one method a call. The methods make the
-// call of their name; tests override them to record the arguments and to answer as they like.
+// The system calls behind the memory of other processes, one method per call. Each method makes the
+// call of its name; tests override them to record the arguments and to choose the answers.
 #pragma once
 
 #include <windows.h>
 
+#include "platform/Interface.h"
+
 namespace MyMapView {
 
-class MemoryCalls {
+class MemoryCalls : public platform::Interface {
  public:
-  MemoryCalls() = default;
-  MemoryCalls(const MemoryCalls&) = delete;
-  MemoryCalls& operator=(const MemoryCalls&) = delete;
-  virtual ~MemoryCalls() = default;
-
   virtual HANDLE OpenProcess(DWORD rights, BOOL inherit, DWORD processId);
   virtual BOOL CloseHandle(HANDLE handle);
   virtual void* VirtualAllocEx(HANDLE process, void* address, SIZE_T size, DWORD type,
@@ -35,7 +32,7 @@ class MemoryCalls {
   virtual HANDLE GetCurrentProcess();
 };
 
-// The one that makes the calls.
+// The real calls.
 MemoryCalls& SystemMemoryCalls();
 
 }  // namespace MyMapView

@@ -5,17 +5,18 @@
 namespace MyMapView {
 namespace {
 
-// MEM_RELEASE as a negative 16-bit value becomes this when it is widened.
+// MEM_RELEASE, sign-extended from 16 bits, with which the release fails. Odd, and stays:
+// docs/ODDITIES.md.
 constexpr DWORD kReleaseWidened = 0xFFFF8000;
 
 using IsWow64ProcessFunction = BOOL(WINAPI*)(HANDLE, BOOL*);
 
-// Whether that process is a 32-bit one on a 64-bit system; nothing when the system knows no such
-// thing or does not tell.
+// Whether that process is a 32-bit one on a 64-bit system; nothing when the system has no such
+// function or the query fails.
 std::optional<bool> IsEmulated(MemoryCalls& calls, HANDLE process) {
   const FARPROC found = calls.GetProcAddress(calls.GetModuleHandleA("kernel32"), "IsWow64Process");
   if (found == nullptr) return std::nullopt;
-  // By way of void*, for a direct cast between unlike functions is taken for a mistake.
+  // Through void*, because the compiler warns of a direct cast between function types.
   const auto ask = reinterpret_cast<IsWow64ProcessFunction>(reinterpret_cast<void*>(found));
   BOOL emulated = FALSE;
   if (!ask(process, &emulated)) return std::nullopt;
@@ -83,7 +84,7 @@ void* OpenShared(MemoryCalls& calls, const char* name) {
 }
 
 void CloseShared(MemoryCalls& calls, HANDLE mapping, void*& view) {
-  // The address of the variable, which is no view: that is what keeps the view mapped.
+  // The address of the variable, not the view. Odd, and stays: docs/ODDITIES.md.
   calls.UnmapViewOfFile(&view);
   calls.CloseHandle(mapping);
 }

@@ -1,5 +1,5 @@
-// Memory that a process of another program can see, and what kind of system and process this is.
-// Nothing here shows a message or raises.
+// Memory that the process of another program can access, and the kinds of system and process.
+// Nothing here shows a message or throws.
 #pragma once
 
 #include <windows.h>
@@ -11,29 +11,28 @@
 namespace MyMapView {
 
 // size bytes, readable and writable, in that process. Returns their address there, null when the
-// process cannot be opened or has no memory. outProcess receives the process's handle in any case;
-// it is the caller's (null when the process cannot be opened).
+// process cannot be opened or has no memory. outProcess always receives the process's handle, which
+// the caller owns (null when the process cannot be opened).
 void* AllocRemote(MemoryCalls& calls, DWORD processId, SIZE_T size, HANDLE& outProcess);
 
-// Gives the block up and closes the handle. The block itself stays in the target until that
-// process ends: a program that still answers a late message then writes into memory of nobody
-// else's.
+// Calls the release of the block and closes the handle. The block itself stays in the target until
+// that process ends: docs/ODDITIES.md.
 void FreeRemote(MemoryCalls& calls, HANDLE process, void* address, SIZE_T size);
 
-// Whether this is a system of the NT family; false also when the system does not tell.
+// Whether this is a system of the NT family; false also when the query fails.
 bool IsNT(MemoryCalls& calls);
 
-// Whether the system is a 64-bit one, which this 32-bit program sees from being run in emulation.
+// Whether the system is a 64-bit one: this 32-bit program then runs in emulation.
 bool IsWin64(MemoryCalls& calls);
 
-// Whether that process is a 64-bit one; nothing when the process may not be asked.
+// Whether that process is a 64-bit one; nothing when the process cannot be queried.
 std::optional<bool> IsProcess64(MemoryCalls& calls, DWORD processId);
 
 // Every shared block has this size, whatever size its name says.
 constexpr DWORD kSharedSize = 1024;
 
-// A block that all processes of the older family see at the same address: opens the mapping of
-// that name, or makes one filled with zeros. False on any failure.
+// A block that all processes of the older family see at the same address: opens the mapping of that
+// name, or creates one filled with zeros. False on any failure.
 bool MakeFileMap(MemoryCalls& calls, const char* name, HANDLE& outMapping, void*& outView);
 
 // The view of the mapping of that name; null on failure.

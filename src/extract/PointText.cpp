@@ -1,9 +1,12 @@
 #include "extract/PointText.h"
 
+#include <utility>
+
 #include "accessibility/MyAccessible.h"
 #include "browser/ElementReaders.h"
 #include "extract/StringUtilities.h"
 #include "extract/Win32API_Window.h"
+#include "platform/LineEnd.h"
 
 namespace extract {
 namespace {
@@ -14,12 +17,11 @@ bool EqualIgnoringCase(std::wstring_view a, std::wstring_view b) {
   return a.size() == b.size() && ContainsIgnoringCase(a, b);
 }
 
-std::wstring ElementText(const ElementTexts& element, std::wstring& method) {
-  // A list item reports the value 0 although it has none.
+TextReading ElementText(const ElementTexts& element) {
+  // A list item reports the value 0 although it has none. Odd, and stays: docs/ODDITIES.md.
   const bool listItem = element.value == L"0" && EqualIgnoringCase(element.tagName, L"LI");
-  const bool inner = element.value.empty() || listItem;
-  method = inner ? L"InnerText" : L"Value";
-  return inner ? element.innerText : element.value;
+  if (element.value.empty() || listItem) return {element.innerText, L"InnerText"};
+  return {element.value, L"Value"};
 }
 
 class ScreenPoint : public PointSources {
@@ -70,19 +72,17 @@ class ScreenPoint : public PointSources {
 }  // namespace
 
 bool WantsAccessibleValue(std::wstring_view className, std::wstring_view classList) {
+  // As text, not entry by entry. Odd, and stays: docs/ODDITIES.md.
   return !classList.empty() && ContainsIgnoringCase(classList, className);
 }
 
-std::wstring TextAtPoint(PointSources& sources, std::wstring_view classList, bool firstLineOnly,
-                         std::wstring& method) {
-  method.clear();
+TextReading TextAtPoint(PointSources& sources, std::wstring_view classList, bool firstLineOnly) {
   const std::wstring className = sources.ClassName();
   if (EqualIgnoringCase(className, kDocumentClass)) {
     if (const auto element = sources.Element()) {
-      std::wstring text = ElementText(*element, method);
-      if (!text.empty()) return text;
+      TextReading reading = ElementText(*element);
+      if (!reading.text.empty()) return reading;
     }
-    method.clear();
     if (!sources.Answers()) return {};
   }
 
@@ -90,22 +90,20 @@ std::wstring TextAtPoint(PointSources& sources, std::wstring_view classList, boo
   if (WantsAccessibleValue(className, classList)) text = sources.AccessibleValue();
   if (text.empty()) text = sources.AccessibleName();
   if (!text.empty()) {
-    if (firstLineOnly) text.resize(MinOf(text.find(L"\r\n"), text.size()));
-    method = L"Accessible";
-    return text;
+    if (firstLineOnly) text.resize(MinOf(text.find(platform::kCrLf), text.size()));
+    return {std::move(text), L"Accessible"};
   }
 
   text = sources.WindowText();
-  if (!text.empty()) method = L"WM_GETTEXT";
-  return text;
+  if (text.empty()) return {};
+  return {std::move(text), L"WM_GETTEXT"};
 }
 
-std::wstring MyGetControlTextFromPoint(int x, int y, std::wstring_view classList,
-                                       bool firstLineOnly, std::wstring& method,
-                                       const MyInternetexplore::BrowserAccess& browser,
-                                       const MyInternetexplore::ShowMessage& showMessage) {
+TextReading MyGetControlTextFromPoint(int x, int y, std::wstring_view classList, bool firstLineOnly,
+                                      const MyInternetexplore::BrowserAccess& browser,
+                                      const MyInternetexplore::ShowMessage& showMessage) {
   ScreenPoint sources({x, y}, browser, showMessage);
-  return TextAtPoint(sources, classList, firstLineOnly, method);
+  return TextAtPoint(sources, classList, firstLineOnly);
 }
 
 }  // namespace extract

@@ -35,6 +35,7 @@ std::wstring CutDblQuot(std::wstring_view text) {
   for (;;) {
     text = platform::Trimmed(text);
     if (!text.starts_with(L'"') || !text.ends_with(L'"')) return std::wstring(text);
+    // A single double quote. Odd, and stays: docs/ODDITIES.md.
     if (text.size() < 2) throw platform::InvalidArgument();
     text = text.substr(1, text.size() - 2);
   }

@@ -19,8 +19,8 @@ std::wstring WithCrLf(std::wstring_view text, std::wstring_view placeholder);
 // The part of buffer before its first zero character; empty when it holds none.
 std::wstring UpToNul(std::wstring_view buffer);
 
-// text without blanks at its ends and enclosing double quotes, taken away again and again
-// (`  " "a" "  ` gives `a`). A text that is a single double quote throws InvalidArgument.
+// text without blanks at its ends and enclosing double quotes, which are removed repeatedly (` "
+// "a" " ` gives `a`). A text that is a single double quote throws InvalidArgument.
 std::wstring CutDblQuot(std::wstring_view text);
 
 // Whether path, resolved against the program's folder, names a normal file. Throws as CutDblQuot

@@ -7,7 +7,6 @@
 #include <cstdint>
 #include <optional>
 
-#include "extract/ItemReading.h"
 #include "extract/TargetBlock.h"
 
 namespace extract {
@@ -16,8 +15,8 @@ namespace {
 constexpr SIZE_T kTextSize = 256;
 constexpr BlockSize kTextBlock{kTextSize, "256", kTextSize};
 
-// As the common controls of a 32-bit and of a 64-bit process take it. A record of the wrong kind
-// would have the control write to an address that nobody gave it.
+// As the common controls of a 32-bit and of a 64-bit process expect it. With a record of the wrong
+// kind the control would write to a wrong address.
 struct TabRecord32 {
   std::uint32_t mask;
   std::uint32_t state;
@@ -56,7 +55,7 @@ class TabSource {
   bool IsReady() const { return record_.Address() != 0 && text_.Address() != 0; }
 
   std::wstring Caption(std::int32_t index) {
-    // A tab that the control does not give must not repeat the one before.
+    // A tab that the control does not give must not repeat the previous one.
     constexpr std::array<char, kTextSize> kEmpty{};
     text_.Write(kEmpty.data(), kEmpty.size());
     if (is64_) {
@@ -88,22 +87,23 @@ class TabSource {
 
 }  // namespace
 
-std::wstring GetTabControlItem(HWND hwnd, const platform::ReadSession& session,
-                               std::wstring& method, const ControlAccess& access) {
-  return Collected([&](std::wstring& text) {
+Method GetTabControlItem(HWND hwnd, const platform::ReadSession& session, platform::ItemSink& sink,
+                         const ControlAccess& access) {
+  return MethodOf([&]() -> Method {
     const std::int32_t count =
         std::min(access.messages.Send(hwnd, TCM_GETITEMCOUNT, 0, 0), kMostParts);
     const DWORD processId = access.messages.ProcessOf(hwnd);
     const std::optional<bool> is64 = MyMapView::IsProcess64(access.memory, processId);
-    if (!is64) return;
+    if (!is64) return {};
     TabSource source(hwnd, access, processId, *is64);
-    if (!source.IsReady()) return;
+    if (!source.IsReady()) return {};
     for (std::int32_t i = 0; i < count; ++i) {
-      if (Interrupted(hwnd, session, text)) break;
-      text.append(source.Caption(i)).append(L"\r\n");
+      if (Interrupted(session, platform::ReadUntil::kPointerLeaves, sink)) break;
+      PutItem(sink, source.Caption(i));
+      // Another separator. Odd, and stays: docs/ODDITIES.md.
       Progress(session, i + 1, L"/ --", count);
     }
-    method = L"TCM_GETITEM";
+    return L"TCM_GETITEM";
   });
 }
 

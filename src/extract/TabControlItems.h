@@ -3,18 +3,16 @@
 
 #include <windows.h>
 
-#include <string>
-
 #include "extract/ControlAccess.h"
-#include "platform/ReadSession.h"
+#include "extract/ItemReading.h"
 
 namespace extract {
 
-// One caption a line, each ended by CR LF, of at most 256 bytes of the system code page. Progress
-// is the tabs read, "/ --", all tabs. Stops before a tab, with the mark of an interruption, when
-// the session's target is no longer hwnd. method becomes "TCM_GETITEM"; it stays as it is when the
-// target's memory cannot be used or the target does not tell whether it is a 64-bit process.
-std::wstring GetTabControlItem(HWND hwnd, const platform::ReadSession& session,
-                               std::wstring& method, const ControlAccess& access = SystemAccess());
+// One caption per row, of at most 256 bytes of the system code page. Progress is the tabs read, "/
+// --", all tabs. Stops before a tab, with the mark of an interruption, when the pointer has left.
+// The method is "TCM_GETITEM", and empty when the target's memory cannot be used or when it is
+// unknown whether the target is a 64-bit process.
+Method GetTabControlItem(HWND hwnd, const platform::ReadSession& session, platform::ItemSink& sink,
+                         const ControlAccess& access = SystemAccess());
 
 }  // namespace extract

@@ -1,5 +1,5 @@
-// A block of memory that the process of a control can see, for records and texts that pass between
-// the control and a reader.
+// A block of memory that the process of a control can access, for records and texts that pass
+// between the control and a reader.
 #pragma once
 
 #include <windows.h>
@@ -14,7 +14,7 @@ namespace extract {
 
 struct BlockSize {
   SIZE_T remote;           // bytes, in the target process
-  const char* sharedName;  // names the shared mapping where no memory can be had in other processes
+  const char* sharedName;  // of the mapping, on systems without memory in other processes
   SIZE_T released;         // the size that the release is called with
 };
 
@@ -25,7 +25,7 @@ class TargetBlock {
   TargetBlock(const TargetBlock&) = delete;
   TargetBlock& operator=(const TargetBlock&) = delete;
 
-  // In the target; 0 when no block could be obtained, and then nothing may be written or read.
+  // In the target; 0 when there is no block, and then nothing must be written or read.
   std::uint32_t Address() const;
 
   // Throw TargetLost when the target cannot be written to or read from.

@@ -1,6 +1,7 @@
 #include "extract/TextCount.h"
 
 #include "platform/ErrorReport.h"
+#include "platform/LineEnd.h"
 #include "platform/Rounding.h"
 #include "platform/TextCodec.h"
 
@@ -11,7 +12,7 @@ std::int32_t Counted(std::size_t count) {
   return platform::ClampToInt32(static_cast<std::int64_t>(count));
 }
 
-// "label:all(without)", the second number being what is left without spaces and the like.
+// "label:all(without)", where the second number leaves out spaces and the like.
 std::wstring Pair(std::wstring_view label, std::int32_t all, std::int32_t without) {
   return std::wstring(label) + std::to_wstring(all) + L"(" + std::to_wstring(without) + L")";
 }
@@ -30,7 +31,7 @@ std::int32_t FindStrCnt(std::wstring_view text, std::wstring_view pattern) {
 TextCount GetTextCount(std::wstring_view text) {
   const std::int32_t units = Counted(text.size());
   TextCount count;
-  count.lineBreaks = FindStrCnt(text, L"\r\n");
+  count.lineBreaks = FindStrCnt(text, platform::kCrLf);
   count.bytes = Counted(platform::DoubleByteLength(text));
   count.chars = units - count.lineBreaks;
   count.wide = count.bytes - units;
@@ -44,7 +45,7 @@ std::wstring CountLine(const TextCount& count) {
   const std::int32_t visible =
       count.chars - count.wideSpaces - count.spaces - count.lineBreaks - count.tabs;
   const std::int32_t narrow = count.chars - count.wide - count.lineBreaks - count.tabs;
-  // Two blanks behind "byte" set the totals apart from the kinds of characters.
+  // Two blanks after "byte". Odd, and stays: docs/ODDITIES.md.
   return Pair(L"字数:", count.chars, visible) + L" 改行:" + std::to_wstring(count.lineBreaks) +
          L" " + std::to_wstring(count.bytes) + L"byte  " +
          Pair(L"全角:", count.wide, count.wide - count.wideSpaces) + L" " +

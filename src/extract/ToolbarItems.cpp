@@ -8,14 +8,13 @@
 #include <cstdint>
 #include <cstring>
 
-#include "extract/ItemReading.h"
 #include "extract/TargetBlock.h"
 
 namespace extract {
 namespace {
 
-// What the toolbar of a 32-bit and of a 64-bit process writes. Only the command is used, which
-// stands at the same place in both, and the block has room for either.
+// What the toolbar of a 32-bit and of a 64-bit process writes. Only the command is used, which has
+// the same offset in both, and the block is large enough for both.
 struct ButtonRecord32 {
   std::int32_t image;
   std::int32_t command;
@@ -41,6 +40,7 @@ static_assert(sizeof(ButtonRecord64) == 32);
 constexpr std::size_t kCommandAt = offsetof(ButtonRecord32, command);
 static_assert(kCommandAt == 4 && kCommandAt == offsetof(ButtonRecord64, command));
 
+// Three sizes for one block. Odd, and stays: docs/ODDITIES.md.
 constexpr SIZE_T kReadSize = 121;
 constexpr BlockSize kBlock{124, "121", 124};
 static_assert(kReadSize >= sizeof(ButtonRecord64));
@@ -54,15 +54,15 @@ class ButtonSource {
 
   bool IsReady() const { return block_.Address() != 0; }
 
-  // Appends the button's line to text, if it has one.
-  void AppendButton(std::int32_t index, std::wstring& text) {
+  // Puts the button's text into the sink, if it has one.
+  void PutButton(std::int32_t index, platform::ItemSink& sink) {
     if (Ask(TB_GETBUTTON, index) <= 0) return;
     std::array<char, kReadSize> bytes{};
     block_.Read(bytes.data(), bytes.size());
     std::int32_t command = 0;
     std::memcpy(&command, bytes.data() + kCommandAt, sizeof command);
     if (Ask(TB_GETBUTTONTEXTA, command) <= 0) return;
-    text.append(block_.ReadText(kReadSize)).append(L"\r\n");
+    PutItem(sink, block_.ReadText(kReadSize));
   }
 
  private:
@@ -78,19 +78,19 @@ class ButtonSource {
 
 }  // namespace
 
-std::wstring GetToolbarItem(HWND hwnd, const platform::ReadSession& session, std::wstring& method,
-                            const ControlAccess& access) {
-  return Collected([&](std::wstring& text) {
+Method GetToolbarItem(HWND hwnd, const platform::ReadSession& session, platform::ItemSink& sink,
+                      const ControlAccess& access) {
+  return MethodOf([&]() -> Method {
     const std::int32_t count =
         std::min(access.messages.Send(hwnd, TB_BUTTONCOUNT, 0, 0), kMostParts);
     ButtonSource source(hwnd, access);
-    if (!source.IsReady()) return;
+    if (!source.IsReady()) return {};
     for (std::int32_t i = 0; i < count; ++i) {
-      if (Interrupted(hwnd, session, text)) break;
-      source.AppendButton(i, text);
+      if (Interrupted(session, platform::ReadUntil::kPointerLeaves, sink)) break;
+      source.PutButton(i, sink);
       Progress(session, i + 1, L"/", count);
     }
-    method = L"TB_GETBUTTON";
+    return L"TB_GETBUTTON";
   });
 }
 

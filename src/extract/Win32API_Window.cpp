@@ -6,10 +6,11 @@ namespace Win32API_Window {
 namespace {
 
 constexpr int kClassNameLength = 128;
-// Captions get a buffer of their own odd size; long captions are cut where users know it.
+// Captions and texts have different sizes. Odd, and stays: docs/ODDITIES.md.
 constexpr int kCaptionLength = 9192;
 constexpr int kTextLength = 4096;
 
+// May occur in a caption. Odd, and stays: docs/ODDITIES.md.
 constexpr std::wstring_view kLineFeedMark = L"%!LF!%";
 
 }  // namespace

@@ -1,5 +1,5 @@
-// Window primitives: class, caption, parents and the topmost band. None of them raises; after a
-// failure each returns what it had, usually nothing.
+// Window primitives: class, caption, parents and the topmost band. Nothing here throws; after a
+// failure the result is usually empty.
 #pragma once
 
 #include <windows.h>
@@ -8,18 +8,19 @@
 
 namespace Win32API_Window {
 
-// The last window of the GetParent chain (owners included); hwnd itself when it has no parent.
+// The last window of the GetParent chain (owners included: odd, and stays: docs/ODDITIES.md); hwnd
+// itself when it has no parent.
 HWND GetTopParent(HWND hwnd);
 
 // The class name; empty when the window is gone.
 std::wstring MyGetClassName(HWND hwnd);
 
-// The caption, up to 9191 characters, a lone LF turned into CR LF. Of another process's control
-// the system gives what it keeps itself, which is empty for most.
+// The caption, up to 9191 characters, a lone LF turned into CR LF. For a control of another process
+// the system returns only what it stores itself, which is empty for most.
 std::wstring MyGetWindowText(HWND hwnd);
 
-// The text that the window answers WM_GETTEXT with, up to 4095 characters. Waits as long as the
-// window takes.
+// The text that the window answers WM_GETTEXT with, up to 4095 characters. Waits until the window
+// answers.
 std::wstring WindowTextByMessage(HWND hwnd);
 
 // Put the window into or out of the topmost band; return SetWindowPos's result.

@@ -69,6 +69,7 @@ std::wstring AbsolutePath(const std::wstring& path, const std::wstring& base) {
     const std::wstring result = Joined(folder, WithoutQuotes(platform::Trimmed(path)));
     return result.find(L' ') == result.npos ? result : L'"' + result + L'"';
   } catch (const platform::NumberedError& error) {
+    // The number after the description. Odd, and stays: docs/ODDITIES.md.
     platform::ShowMessage(error.Description() + L" " + std::to_wstring(error.Number()),
                           L"AbsolutePath");
     return path;

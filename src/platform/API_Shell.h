@@ -20,7 +20,7 @@ std::wstring ProgramFolder();
 // quote only is reported in a message box titled "AbsolutePath" and returned unchanged.
 std::wstring AbsolutePath(const std::wstring& path, const std::wstring& base);
 
-// "explorer.exe " followed by target.
+// "explorer.exe " followed by target, without quotes. Odd, and stays: docs/ODDITIES.md.
 std::wstring ExplorerCommand(const std::wstring& target);
 
 // Starts ExplorerCommand(target) in a normal window and does not wait. A failure is
@@ -30,8 +30,8 @@ void OpenWithExplorer(const std::wstring& target);
 // The sound call's flags: SND_SYNC (0), or SND_LOOP (8) when repeat is set.
 unsigned SoundFlags(bool repeat);
 
-// Plays a wave file with these flags, so without repeat to its end before returning. Returns false
-// when the file could not be played.
+// Plays a wave file with these flags; without repeat it returns when the sound has ended. Returns
+// false when the file could not be played.
 bool PlaySoundFile(const std::wstring& path, bool repeat);
 
 }  // namespace API_Shell

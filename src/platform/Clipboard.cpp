@@ -31,17 +31,16 @@ bool PutTextOnClipboard(HWND owner, const std::wstring& text) {
   const std::size_t bytes = (text.size() + 1) * sizeof(wchar_t);
   const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, bytes);
   if (block == nullptr) return false;
+  bool set = false;
   if (void* const place = GlobalLock(block)) {
     std::memcpy(place, text.c_str(), bytes);
     GlobalUnlock(block);
+    const OpenedClipboard clipboard(owner);
+    set = clipboard && EmptyClipboard() && SetClipboardData(CF_UNICODETEXT, block) != nullptr;
   }
-  const OpenedClipboard clipboard(owner);
   // Once set, the block belongs to the system.
-  if (clipboard && EmptyClipboard() && SetClipboardData(CF_UNICODETEXT, block) != nullptr) {
-    return true;
-  }
-  GlobalFree(block);
-  return false;
+  if (!set) GlobalFree(block);
+  return set;
 }
 
 }  // namespace platform

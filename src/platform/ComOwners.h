@@ -1,5 +1,4 @@
-// Owners of the two COM value types that are not reference counted, so that nothing is freed by
-// hand.
+// Owners of the two COM value types that are not reference counted; their destructors release.
 #pragma once
 
 #include <windows.h>
@@ -11,7 +10,7 @@
 
 namespace platform {
 
-// Owns a BSTR, received through Receive() or made of a text.
+// Owns a BSTR, received through Receive() or made from a text.
 class UniqueBstr {
  public:
   UniqueBstr() = default;

@@ -22,9 +22,20 @@ bool IsDirectory(const std::wstring& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+bool IsListed(DWORD attributes) {
+  return (attributes &
+          (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) == 0;
+}
+
 bool IsNormalFile(const std::wstring& path) {
-  const DWORD attributes = GetFileAttributesW(path.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+  WIN32_FIND_DATAW found{};
+  const HANDLE first = FindFirstFileW(path.c_str(), &found);
+  if (first == INVALID_HANDLE_VALUE) return false;
+  const UniqueFileSearch search(first);
+  do {
+    if (IsListed(found.dwFileAttributes)) return true;
+  } while (FindNextFileW(search.Get(), &found));
+  return false;
 }
 
 std::string ReadWholeFile(const std::wstring& path) {

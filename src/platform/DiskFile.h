@@ -2,6 +2,8 @@
 // paths would bring in all of its locales and double the size of the program.)
 #pragma once
 
+#include <windows.h>
+
 #include <string>
 #include <string_view>
 
@@ -11,7 +13,12 @@ namespace platform {
 
 bool IsDirectory(const std::wstring& path);
 
-// Whether path names a file and not a folder.
+// Whether a directory listing shows a file with these attributes: it is no folder, not hidden and
+// no system file.
+bool IsListed(DWORD attributes);
+
+// Whether a directory listing of path finds such a file. A path with "*" or "?" finds what it
+// matches; a path that ends with a backslash names no file.
 bool IsNormalFile(const std::wstring& path);
 
 // The whole file; empty when there is none or it cannot be opened or read.

@@ -7,8 +7,8 @@
 namespace platform {
 namespace {
 
-// In the topmost band, where the main window may stand: a box under it would hold up the capture
-// unseen. That is all that "system modal" means today.
+// Topmost, because the main window may be topmost: a box behind it would block the capture unseen.
+// MB_SYSTEMMODAL means no more than that today.
 void SystemMessageBox(const std::wstring& text, const std::wstring& title) {
   MessageBoxW(GetActiveWindow(), text.c_str(), title.c_str(), MB_OK | MB_SYSTEMMODAL);
 }
@@ -20,7 +20,7 @@ MessageBoxFunction& Current() {
 
 bool boxIsOpen = false;
 
-// A box pumps messages, so timers run under it and may fail again.
+// A box pumps messages, so timers run while it is open and may fail again.
 class OpenBox {
  public:
   OpenBox() { boxIsOpen = true; }
@@ -36,7 +36,7 @@ NumberedError CurrentError() {
   } catch (const NumberedError& error) {
     return error;
   } catch (...) {
-    // The standard library fails for want of memory or for lengths beyond it.
+    // The standard library throws when memory runs out or a length is too large.
     return {ERROR_NOT_ENOUGH_MEMORY, SystemDescription(ERROR_NOT_ENOUGH_MEMORY)};
   }
 }
@@ -69,6 +69,12 @@ NumberedError InvalidArgument() {
   return {ERROR_INVALID_PARAMETER, SystemDescription(ERROR_INVALID_PARAMETER)};
 }
 
+std::wstring ErrorText(const NumberedError& error) {
+  return std::to_wstring(error.Number()) + L" " + error.Description();
+}
+
+std::wstring CurrentErrorText() { return ErrorText(CurrentError()); }
+
 void ReportCurrentError(std::wstring_view procedure) { ReportError(procedure, CurrentError()); }
 
 void ReportCurrentErrorAtLine(std::wstring_view procedure) {
@@ -77,8 +83,7 @@ void ReportCurrentErrorAtLine(std::wstring_view procedure) {
 }
 
 void ReportError(std::wstring_view procedure, const NumberedError& error) {
-  ShowMessage(std::to_wstring(error.Number()) + L" " + error.Description(),
-              std::wstring(procedure));
+  ShowMessage(ErrorText(error), std::wstring(procedure));
 }
 
 }  // namespace platform

@@ -18,7 +18,7 @@ MessageBoxFunction SetMessageBox(MessageBoxFunction function);
 // this program is open.
 bool ShowMessage(const std::wstring& text, const std::wstring& title);
 
-// An error with a number, as the system counts them.
+// An error with one of the system's error numbers.
 class NumberedError : public std::exception {
  public:
   NumberedError(long number, std::wstring description)
@@ -34,15 +34,20 @@ class NumberedError : public std::exception {
 // Windows' error for an argument that cannot be used, ERROR_INVALID_PARAMETER.
 NumberedError InvalidArgument();
 
-// The program's common error report: number, a blank, description; titled with the name of the
-// procedure that failed.
-void ReportError(std::wstring_view procedure, const NumberedError& error);
+// Number, a blank, description.
+std::wstring ErrorText(const NumberedError& error);
 
 // The same for the exception that is being handled, whatever it is; for catch blocks.
+std::wstring CurrentErrorText();
+
+// The program's common error report: the error's text, titled with the name of the procedure that
+// failed.
+void ReportError(std::wstring_view procedure, const NumberedError& error);
+
+// The same for the exception that is being handled.
 void ReportCurrentError(std::wstring_view procedure);
 
-// The same for procedures that name the line of the failure, too: it is not known here and shown
-// as 0.
+// The same with a second line that names line 0. Odd, and stays: docs/ODDITIES.md.
 void ReportCurrentErrorAtLine(std::wstring_view procedure);
 
 // What the system says about one of its error numbers, without the line end.

@@ -23,7 +23,7 @@ void GuardedBuffer::Reserve(std::size_t characters) {
   if (characters <= size_) return;
   Release();
   const std::size_t bytes = (characters * sizeof(wchar_t) + kPage - 1) / kPage * kPage;
-  // One page more is taken from the address space and never gets memory.
+  // One more page of address space is reserved and never gets memory.
   void* const base = VirtualAlloc(nullptr, bytes + kPage, MEM_RESERVE, PAGE_NOACCESS);
   if (base == nullptr) throw std::bad_alloc();
   data_ = static_cast<wchar_t*>(base);

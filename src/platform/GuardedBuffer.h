@@ -1,12 +1,12 @@
-// A buffer for a text that somebody else writes who may write more than announced.
+// A buffer for a text that another program writes, which may write more than it announced.
 #pragma once
 
 #include <cstddef>
 
 namespace platform {
 
-// The memory behind the buffer cannot be touched: a writer that goes too far is stopped by the
-// system and spoils nothing.
+// The memory after the buffer is not accessible: the system stops a writer that goes too far, and
+// no other memory is damaged.
 class GuardedBuffer {
  public:
   GuardedBuffer() = default;
@@ -14,7 +14,7 @@ class GuardedBuffer {
   GuardedBuffer& operator=(const GuardedBuffer&) = delete;
   ~GuardedBuffer();
 
-  // Makes the buffer hold at least that many characters; new room is filled with zeros, and a
+  // Makes the buffer hold at least that many characters; new memory is filled with zeros, and a
   // buffer that grows loses its content. Throws std::bad_alloc.
   void Reserve(std::size_t characters);
 

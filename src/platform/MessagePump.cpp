@@ -11,14 +11,14 @@ std::vector<HWND>& Dialogs() {
   return dialogs;
 }
 
-// Whether the message was a key for the dialog, and is dealt with.
+// Whether the message was a key for a dialog and has been handled.
 bool IsForDialog(MSG& message) {
-  // Ticks come all the time, and are never for a dialog.
+  // Timer messages are frequent and never for a dialog.
   if (message.message == WM_TIMER) return false;
   for (const HWND dialog : Dialogs()) {
     if (message.hwnd != dialog && !IsChild(dialog, message.hwnd)) continue;
-    // Another program may press a button on a page that is not shown and so give it the focus. From
-    // there the search for an access key need not end: it goes round among what is shown.
+    // Another program may press a button on a hidden page and so give it the focus. From there the
+    // system's search for an access key may loop forever among the visible controls.
     return IsWindowVisible(message.hwnd) && IsDialogMessageW(dialog, &message);
   }
   return false;

@@ -1,4 +1,4 @@
-// The message queue of the one thread: waiting for messages, and working off the pending ones in
+// The message queue of the one thread: waits for messages, and dispatches the pending ones in
 // between.
 #pragma once
 
@@ -6,8 +6,8 @@
 
 namespace platform {
 
-// Makes the pump treat window as a dialog: the Tab key, the arrow keys and access keys move
-// between its controls. A window that is destroyed must be taken back with RemoveDialog.
+// Makes the pump treat window as a dialog: the Tab key, the arrow keys and access keys move between
+// its controls. Call RemoveDialog when the window is destroyed.
 void AddDialog(HWND window);
 void RemoveDialog(HWND window);
 

@@ -1,39 +1,46 @@
-// What a reader that takes its time is given beside the window it reads: where it shows how far it
-// is, how it lets the program go on, and whether it shall.
+// What a long reader gets in addition to its window: where to show the progress, how to yield to
+// the program, and whether to go on.
 #pragma once
 
 #include <windows.h>
 
 #include <functional>
 #include <string>
-#include <string_view>
 
 namespace platform {
 
-// Ends a text whose reading was interrupted.
-constexpr std::wstring_view kInterrupted = L"・・・中断・・・";
+// What ends a reading before its last item.
+enum class ReadUntil {
+  kPointerLeaves,  // another window is the target
+  kCaptureEnds,    // that, or the capture ends
+};
 
 struct ReadSession {
-  // The window that the capture is on. It changes while the reader yields; a reader stops when it
-  // finds another one than the window that it reads for. Null once no capture runs.
+  // The current target of the capture. It changes while the reader yields; a reader stops when it
+  // is no longer the window being read. Null when no capture runs.
   const HWND& target;
 
   std::function<void(const std::wstring& text)> showProgress;
 
-  // Works off the pending messages of this thread, once after every item.
+  // Dispatches the pending messages of this thread.
   std::function<void()> yield;
 
-  // False once the capture shall end.
+  // False when the capture should end.
   std::function<bool()> stillRunning;
 
-  // The window that is read for: the one that the capture was on when the report began.
+  // The window being read: the target when the report began.
   HWND window = target;
 
-  // The capture is on another window. One that has ended is on none.
-  bool HasMovedOn() const { return target != nullptr && target != window; }
+  // After each item: shows the progress and yields.
+  void Step(const std::wstring& progress) const {
+    showProgress(progress);
+    yield();
+  }
 
-  // The reading shall end.
-  bool Interrupted() const { return HasMovedOn() || !stillRunning(); }
+  // Whether the reading goes on, asked before or after each item.
+  bool GoesOn(ReadUntil end) const {
+    return target == window && (end == ReadUntil::kPointerLeaves || stillRunning());
+  }
 };
 
 }  // namespace platform

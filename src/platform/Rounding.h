@@ -1,4 +1,4 @@
-// Whole numbers from fractions, the way every figure of this program is rounded.
+// Whole numbers from fractions, as every number of this program is rounded.
 #pragma once
 
 #include <cstdint>
@@ -7,6 +7,7 @@ namespace platform {
 
 // The integer nearest to numerator / denominator; a half goes to the even neighbour
 // (5/2 gives 2, 7/2 gives 4, -5/2 gives -2). denominator must be greater than 0.
+// Odd, and stays: docs/ODDITIES.md.
 // A result beyond 32 bits is clamped to the nearest 32-bit number.
 std::int32_t RoundedRatio(std::int64_t numerator, std::int64_t denominator) noexcept;
 

@@ -10,7 +10,7 @@ constexpr std::size_t kPiece = 1U << 20;
 
 bool IsHighSurrogate(wchar_t unit) { return unit >= 0xD800 && unit <= 0xDBFF; }
 
-// How many units of the front of text may be converted on their own.
+// How many units at the start of text can be converted separately.
 std::size_t PieceOf(std::wstring_view text) {
   if (text.size() <= kPiece) return text.size();
   return IsHighSurrogate(text[kPiece - 1]) ? kPiece - 1 : kPiece;
@@ -18,7 +18,7 @@ std::size_t PieceOf(std::wstring_view text) {
 
 std::size_t PieceOf(std::string_view bytes) {
   if (bytes.size() <= kPiece) return bytes.size();
-  // A lead byte can also be a trail byte, so the cut is found by walking from the front.
+  // A lead byte can also be a trail byte, so the cut is found by walking from the start.
   std::size_t at = 0;
   while (at < kPiece - 1) {
     at += IsDBCSLeadByte(static_cast<BYTE>(bytes[at])) ? 2U : 1U;

@@ -42,6 +42,12 @@ struct KernelCloser {
 // INVALID_HANDLE_VALUE.
 using UniqueKernelHandle = UniqueHandle<KernelCloser>;
 
+struct FileSearchCloser {
+  using Handle = HANDLE;
+  static void Close(Handle search) noexcept { FindClose(search); }
+};
+using UniqueFileSearch = UniqueHandle<FileSearchCloser>;
+
 struct FontCloser {
   using Handle = HFONT;
   static void Close(Handle font) noexcept { DeleteObject(font); }

@@ -5,15 +5,14 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Interface.h"
 #include "settings/ConfigKeys.h"
 
 namespace settings {
 
-// The main window, as far as the configuration is applied to it and taken back from it.
-class ConfigWindow {
+// The main window, as LoadConfig and SaveConfig need it.
+class ConfigWindow : public platform::Interface {
  public:
-  virtual ~ConfigWindow() = default;
-
   virtual ScreenTwips Screen() const = 0;
   // While the layout is held back, Form_Resize does nothing.
   virtual void HoldLayout(bool hold) = 0;
@@ -22,13 +21,13 @@ class ConfigWindow {
   virtual void ApplyPlacement(const WindowValues& values) = 0;
   // The window's restored rectangle; turnBack is the box's value.
   virtual WindowValues CurrentValues() const = 0;
-  // The pointer position label in the colour RGB(128, 128, 255).
+  // Colours the pointer position label RGB(128, 128, 255).
   virtual void HighlightMousePos() = 0;
-  // Put a value into a box; a box holds 0 or 1, and every other value counts as 1. Return what
-  // the box then holds.
+  // Show a value in a box, which is ticked for every value but 0. The box of "turn back" also keeps
+  // that setting: the 0 or 1 that it then holds is returned.
   virtual std::int32_t SetTurnBackBox(std::int32_t value) = 0;
-  virtual std::int32_t SetDetailBox(std::int32_t value) = 0;
-  virtual std::int32_t SetAutoStopBox(std::int32_t value) = 0;
+  virtual void SetDetailBox(std::int32_t value) = 0;
+  virtual void SetAutoStopBox(std::int32_t value) = 0;
   // Height of the visible top pane, in twips.
   virtual void SetVisibleTopPaneHeight(std::int32_t height) = 0;
   virtual void RunLayout() = 0;
@@ -37,8 +36,8 @@ class ConfigWindow {
 // folder + "\" + "Conf.txt".
 std::wstring ConfigPath(const std::wstring& folder);
 
-// Sets the defaults in record, reads the file at path if there is one, and applies to window what
-// belongs to it. A file that cannot be opened counts as no file. Reports nothing.
+// Sets the defaults in record, reads the file at path if there is one, and applies the window's
+// values to it. A file that cannot be opened counts as no file. Reports nothing.
 void LoadConfig(const std::wstring& path, ConfigWindow& window, Settings& record);
 
 // Writes all values to the file at path, replacing it. An error ends the writing silently; the

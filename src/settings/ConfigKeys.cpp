@@ -33,10 +33,11 @@ std::int32_t CentredTop(const ScreenTwips& screen) {
   return RoundedRatio(std::int64_t{screen.ScreenH} - 7725, 2);
 }
 
+// No default. Odd, and stays: docs/ODDITIES.md.
 constexpr std::monostate kAsItWas{};
 
-// Some keys are written with blanks or capitals that differ from the text they are read by. Files
-// that users already have look so, and reading is tolerant of it.
+// Some keys are written with blanks or capitals that differ from the text they are read by.
+// Odd, and stays: docs/ODDITIES.md.
 constexpr std::array<ConfigKey, 39> kKeys{{
     {L"form left", L"form left = ", &W::formLeft, HalfWidth},
     {L"form top", L"form top = ", &W::formTop, ThirdOfHeight},

@@ -1,5 +1,5 @@
-// The lines of Conf.txt as data: how a key is read, how it is written, where its value lives and
-// what it is when the file does not say.
+// The lines of Conf.txt as data: how a key is read, how it is written, where its value is kept, and
+// its default.
 #pragma once
 
 #include <cstdint>
@@ -36,7 +36,7 @@ using ConfigDefault = std::variant<std::monostate, std::int32_t, std::wstring_vi
 
 struct ConfigKey {
   std::wstring_view readAs;     // the trimmed, lower-cased key equals this, compared in lower case
-  std::wstring_view writtenAs;  // stands before the value, to the last blank
+  std::wstring_view writtenAs;  // written before the value, with its last blank
   ConfigField field;
   ConfigDefault byDefault;
 };

@@ -1,13 +1,14 @@
 // The keyboard as the polled keys see it.
 #pragma once
 
+#include "platform/Interface.h"
+
 namespace settings {
 
 // Answers as GetAsyncKeyState does for a virtual key: bit 15 is set while it is down, bit 0 when
 // it was pressed since the last query.
-class KeyboardState {
+class KeyboardState : public platform::Interface {
  public:
-  virtual ~KeyboardState() = default;
   virtual short AsyncKeyState(int virtualKey) const = 0;
 };
 

@@ -10,6 +10,8 @@ struct NamedKey {
   std::wstring_view name;
 };
 
+// Some of these names are odd, and stay: docs/ODDITIES.md.
+//
 // Single keys. Letters, digits, the numeric pad's digits and the function keys are runs, below.
 constexpr NamedKey kNamedKeys[] = {
     {1, L" "},
@@ -124,15 +126,16 @@ std::vector<INPUT> KeyInputs(std::span<const KeyStroke> strokes) {
     input.type = INPUT_KEYBOARD;
     input.ki.wVk = stroke.virtualKey;
     input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(stroke.virtualKey, MAPVK_VK_TO_VSC));
+    // For every key. Odd, and stays: docs/ODDITIES.md.
     input.ki.dwFlags = KEYEVENTF_EXTENDEDKEY | (stroke.up ? KEYEVENTF_KEYUP : 0U);
     inputs.push_back(input);
   }
   return inputs;
 }
 
-UINT sKeyEventSet(std::span<const KeyStroke> strokes) {
+UINT sKeyEventSet(std::span<const KeyStroke> strokes, const InputCall& sendInput) {
   std::vector<INPUT> inputs = KeyInputs(strokes);
-  return SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+  return sendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
 std::span<const KeyStroke> SelectAllStrokes() { return kSelectAll; }

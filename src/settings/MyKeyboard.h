@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -27,8 +28,11 @@ struct KeyStroke {
 // The keyboard input records of strokes. Every key carries the extended-key flag, extended or not.
 std::vector<INPUT> KeyInputs(std::span<const KeyStroke> strokes);
 
+// SendInput, or a test's replacement.
+using InputCall = std::function<UINT(UINT count, INPUT* records, int size)>;
+
 // Sends strokes in one SendInput call; returns how many were taken.
-UINT sKeyEventSet(std::span<const KeyStroke> strokes);
+UINT sKeyEventSet(std::span<const KeyStroke> strokes, const InputCall& sendInput = SendInput);
 
 // Ctrl+Home, then Ctrl+Shift+End: selects the whole text of the box that has the focus.
 std::span<const KeyStroke> SelectAllStrokes();

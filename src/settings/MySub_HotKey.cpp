@@ -61,6 +61,7 @@ bool HotKeyPressed(std::int32_t code, const settings::KeyboardState& keyboard) {
   const bool alt = isDown(VK_MENU);
   const bool ctrl = isDown(VK_CONTROL);
   const bool shift = isDown(VK_SHIFT);
+  // A modifier does not look at the others. Odd, and stays: docs/ODDITIES.md.
   switch (code & ~0xFFFF) {
     case kAlt:
       return alt;

@@ -26,9 +26,9 @@ extern const std::array<std::int32_t, kHotKeyCount> HotKeyCodes;
 // The code of the first entry called name; 0 when there is none.
 std::int32_t HotKeyCode(std::wstring_view name);
 
-// Whether the key of code was pressed since it was last asked for, with its modifier down; a code
-// without a modifier needs Alt, Ctrl and Shift up, one with a modifier does not look at the
-// others. Holding the key down does not repeat it.
+// Whether the key of code was pressed since the last query, with its modifier down; a code without
+// a modifier needs Alt, Ctrl and Shift up, one with a modifier does not look at the others. Holding
+// the key down does not repeat it.
 bool HotKeyPressed(std::int32_t code, const settings::KeyboardState& keyboard);
 
 }  // namespace MySub_HotKey

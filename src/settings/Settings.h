@@ -1,5 +1,5 @@
-// The settings record: one field a key of Conf.txt, named after its key. Whoever changes a
-// setting changes it here; the file is written when the program ends.
+// The settings record: one field a key of Conf.txt, named after its key. Settings are changed here;
+// the file is written when the program ends.
 #pragma once
 
 #include <cstdint>
@@ -47,13 +47,14 @@ struct Settings {
   bool operator==(const Settings&) const = default;
 };
 
-// What Conf.txt holds beside the record: it is applied to the main window and taken back from it.
+// The values of Conf.txt outside the record: they are applied to the main window and read back from
+// it.
 struct WindowValues {
   std::int32_t formLeft = 0;  // pixels, the restored rectangle on the screen
   std::int32_t formTop = 0;
   std::int32_t formRight = 0;
   std::int32_t formBottom = 0;
-  std::int32_t turnBack = 0;  // as the file says; the box counts all but 0 as 1
+  std::int32_t turnBack = 0;  // as the file says; the box holds 0 or 1
 
   bool operator==(const WindowValues&) const = default;
 };

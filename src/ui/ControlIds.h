@@ -22,7 +22,7 @@ enum ControlId : int {
   lblMousePos = 1018,
   txthWnd = 1019,
 
-  // Main window: centre strip. The class box txtWin0 stands in the top band.
+  // Main window: centre strip. The class box txtWin0 is in the top band.
   frCenter = 1021,
   chkDetail = 1022,
   txtCount = 1023,
@@ -31,6 +31,7 @@ enum ControlId : int {
   txtWin2 = 1026,
   txtWin3 = 1027,
   lblTextKind = 1028,
+  lblListKind = 1029,
 
   // Main window: splitter.
   imgSplitter = 1031,
@@ -43,7 +44,7 @@ enum ControlId : int {
   Help_Url = 1044,
   MyUrl = 1045,
 
-  // Settings dialog: the pages, their buttons, and what stands below them.
+  // Settings dialog: the pages, their buttons, and what is below them.
   FrList0 = 2001,
   FrList1 = 2002,
   FrList2 = 2003,

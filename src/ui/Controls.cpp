@@ -89,7 +89,7 @@ void ControlSet::Create(HWND window, std::span<const ControlRow> rows, UINT dpi)
   const TwipsScale scale = ScaleForDpi(dpi);
   for (const ControlRow& row : rows) {
     const HWND parent = row.parent == 0 ? window : windows_.at(row.parent);
-    // A frame that grows must not erase what was moved into its new part.
+    // A frame that grows must not erase controls that were moved into its new part.
     const DWORD style =
         row.style | WS_CHILD | WS_CLIPSIBLINGS | (IsFrame(row) ? WS_CLIPCHILDREN : 0);
     const DWORD exStyle = IsFrame(row) ? WS_EX_CONTROLPARENT : 0;
@@ -120,7 +120,7 @@ void ControlSet::ApplyDpi(UINT dpi) {
 
 void ControlSet::Place(int id, const TwipsRect& place, const TwipsScale& scale) {
   const RECT pixels = scale.Pixels(place);
-  // Drawn anew: what was not drawn yet when it was moved would be moved with it for good.
+  // Redrawn, not copied: parts that were not painted yet would be copied too and stay unpainted.
   SetWindowPos((*this)[id], nullptr, pixels.left, pixels.top, pixels.right - pixels.left,
                pixels.bottom - pixels.top, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
 }

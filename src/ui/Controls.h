@@ -12,7 +12,7 @@
 
 namespace ui {
 
-// A container for other controls, WS_EX_CONTROLPARENT, that hands their notifications on.
+// A container for other controls, WS_EX_CONTROLPARENT, that passes their notifications on.
 constexpr const wchar_t* kFrameClass = L"VelmoraFrame";
 
 // The same with a border and its text as a title: the system's group box, with its controls inside
@@ -23,7 +23,7 @@ struct ControlRow {
   int id;
   int parent;  // the number of its frame; 0: the window itself
   const wchar_t* className;
-  DWORD style;  // beside WS_CHILD
+  DWORD style;  // in addition to WS_CHILD
   const wchar_t* caption;
   TwipsRect place;  // in its parent
 };
@@ -31,8 +31,7 @@ struct ControlRow {
 class ControlSet {
  public:
   // Creates every row's control in window, at its place and in the system's message font, both at
-  // dpi dots per inch. Rows stand in the order of the Tab key; a frame stands before what it
-  // contains.
+  // dpi dots per inch. Rows are in the order of the Tab key; a frame comes before its controls.
   void Create(HWND window, std::span<const ControlRow> rows, UINT dpi);
 
   // The control's window; null for a number that no row has.
@@ -54,7 +53,7 @@ class ControlSet {
 // The text of a window of this thread.
 std::wstring WindowText(HWND hwnd);
 
-// A check box: 0 or 1. Every value but 0 counts as 1.
+// A check box: it holds 0 or 1, and is ticked for every value but 0.
 int BoxValue(HWND box);
 void SetBox(HWND box, int value);
 

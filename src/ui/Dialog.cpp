@@ -39,7 +39,7 @@ bool Dialog::Open(const DialogPlan& plan) {
 }
 
 void Dialog::Close() {
-  // Left to the system, the tips' window would be gone before its owner here knows.
+  // Before the system destroys the tips' window, which tips_ owns.
   tips_ = {};
   DestroyWindow(Handle());
 }
@@ -52,7 +52,6 @@ LRESULT Dialog::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case DM_GETDEFID:
       return DefaultButton(plan_.defaultButton);
     case WM_COMMAND:
-      if (LOWORD(wParam) == IDCANCEL) SendMessageW(Handle(), WM_CLOSE, 0, 0);
       return 0;
     case WM_DPICHANGED: {
       const RECT& suggested = *reinterpret_cast<const RECT*>(lParam);

@@ -1,6 +1,6 @@
 // What the dialogs of this program have in common: controls from a table at the window's DPI, tool
-// tips, and the keys of a dialog. A dialog lives beside the main window without a message loop of
-// its own, so that a capture goes on while it is open.
+// tips, and the keys of a dialog. A dialog has no message loop of its own, so that a capture goes
+// on while it is open.
 #pragma once
 
 #include <windows.h>
@@ -18,12 +18,12 @@ namespace ui {
 struct DialogPlan {
   const wchar_t* className;
   const wchar_t* caption;
-  DWORD style;  // beside those of every dialog
+  DWORD style;  // in addition to those of every dialog
   HWND owner;
   std::int32_t innerWidth;  // twips
   std::int32_t innerHeight;
-  POINT corner;                      // top left, a pixel of the monitor that it will stand on
-  std::span<const ControlRow> rows;  // stay the caller's
+  POINT corner;                      // top left corner, in pixels; chooses the monitor
+  std::span<const ControlRow> rows;  // owned by the caller
   int firstFocus;
   int defaultButton = 0;
 };
@@ -36,10 +36,11 @@ class Dialog : public Window {
   // Creates the window, topmost and not yet visible, with its controls.
   bool Open(const DialogPlan& plan);
 
-  // Destroys the window; Open may make it anew.
+  // Destroys the window; Open can create it again.
   void Close();
 
-  // What all dialogs answer alike. The Esc key arrives as WM_CLOSE.
+  // Handles what all dialogs have in common. The Esc key closes no dialog: it is also polled as the
+  // hot key, and one press must not do two things.
   LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   HWND Control(int id) const { return controls_[id]; }

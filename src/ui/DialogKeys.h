@@ -1,11 +1,11 @@
-// What a window with controls needs beside the message pump to be worked by keyboard.
+// What a window with controls needs, in addition to the message pump, to be used by keyboard.
 #pragma once
 
 #include <windows.h>
 
 namespace ui {
 
-// Gives the focus back to the control that had it when the window was left.
+// Gives the focus back to the control that had it when the window was deactivated.
 class FocusMemory {
  public:
   // For WM_ACTIVATE. The first time, and when the remembered control is gone or hidden, first gets

@@ -5,7 +5,7 @@
 namespace ui {
 namespace {
 
-constexpr LONG kReach = 80;           // pixels of the title bar that a hand can catch
+constexpr LONG kReach = 80;           // pixels of the title bar that stay visible
 constexpr std::int32_t kMargin = 10;  // pixels
 
 }  // namespace

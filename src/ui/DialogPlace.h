@@ -1,4 +1,4 @@
-// Where a dialog and its parts stand: pure functions. Screen positions are in pixels.
+// The places of a dialog and its parts: pure functions. Screen positions are in pixels.
 #pragma once
 
 #include <windows.h>
@@ -13,8 +13,8 @@ POINT Reachable(POINT wanted, SIZE size, const RECT& work);
 
 POINT Centred(SIZE size, const RECT& work);
 
-// The close button in the bottom right corner of an inner area, ten pixels from both edges. The
-// horizontal factor counts for both.
+// The close button in the bottom right corner of an inner area, ten pixels from both edges by the
+// horizontal factor. Odd, and stays: docs/ODDITIES.md.
 TwipsRect CloseButtonPlace(const TwipsRect& button, std::int32_t innerWidth,
                            std::int32_t innerHeight, const TwipsScale& scale);
 

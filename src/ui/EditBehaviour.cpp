@@ -43,8 +43,7 @@ LRESULT CALLBACK BoxProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lPar
       MyGetLevel(box, wParam, ModifierKeys());
       return DefSubclassProc(box, message, wParam, lParam);
     case WM_CHAR:
-      // The key has been dealt with; the box's own copying would run a second time, and also with
-      // other modifiers.
+      // The key has been handled; the box would copy a second time, and also with other modifiers.
       return wParam == kCtrlC ? 0 : DefSubclassProc(box, message, wParam, lParam);
     case WM_LBUTTONUP:
     case WM_LBUTTONDBLCLK: {
@@ -64,7 +63,11 @@ LRESULT CALLBACK BoxProcedure(HWND box, UINT message, WPARAM wParam, LPARAM lPar
 
 void MyGetLevel(HWND box, WPARAM keyCode, int shift) {
   if (keyCode != 'C' || shift != kCtrlDown) return;
-  platform::PutTextOnClipboard(GetAncestor(box, GA_ROOT), SelectedText(box));
+  try {
+    platform::PutTextOnClipboard(GetAncestor(box, GA_ROOT), SelectedText(box));
+  } catch (...) {
+    // Without memory for the text the clipboard stays as it was.
+  }
 }
 
 void AddEditBehaviour(HWND box, HWND root) {

@@ -15,12 +15,13 @@ constexpr int kShiftDown = 1;
 constexpr int kCtrlDown = 2;
 constexpr int kAltDown = 4;
 
-// The keys of a text box: C with Ctrl alone clears the clipboard and puts the selected text on it,
-// also an empty one. Every other key does nothing here.
+// The keys of a text box (the name is odd, and stays: docs/ODDITIES.md): C with Ctrl alone clears
+// the clipboard and puts the selected text on it, also an empty one. Every other key does nothing
+// here.
 void MyGetLevel(HWND box, WPARAM keyCode, int shift);
 
 // Lets the Tab key leave a multi-line box, lets it hold as many characters as memory allows, and
-// tells root of clicks as WM_COMMAND.
+// sends clicks to root as WM_COMMAND.
 void AddEditBehaviour(HWND box, HWND root);
 
 }  // namespace ui

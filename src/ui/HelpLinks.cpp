@@ -7,8 +7,8 @@
 namespace ui {
 namespace {
 
-// Anything else of ASCII means something in an address, or ends a word of the explorer's command
-// line, and folders are called "C# 100%", too.
+// All other ASCII characters have a meaning in an address or end an argument of the explorer's
+// command line. Folders may be called "C# 100%".
 bool StandsForItself(wchar_t c) {
   constexpr std::wstring_view kSigns = L"-._~/:!$&'()+@";
   const bool isLetter = (c >= L'a' && c <= L'z') || (c >= L'A' && c <= L'Z');
@@ -18,7 +18,7 @@ bool StandsForItself(wchar_t c) {
 
 std::wstring FileAddress(std::wstring_view path) {
   constexpr std::wstring_view kDigits = L"0123456789ABCDEF";
-  // A path on another computer brings its two slashes along.
+  // A path on another computer already begins with two slashes.
   std::wstring address = path.starts_with(L"\\\\") ? L"file:" : L"file:///";
   for (const wchar_t c : path) {
     if (c == L'\\') {

@@ -13,7 +13,28 @@ bool IsListOpen(HWND box) {
   return SendMessageW(GetParent(box), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
 }
 
-// Whether the character ends an open list, with the chosen item or with the one before.
+// Whether the key opens, closes or leaves a list, or chooses in it, and edits nothing.
+bool WorksList(WPARAM key) {
+  switch (key) {
+    case VK_LEFT:
+    case VK_RIGHT:
+    case VK_UP:
+    case VK_DOWN:
+    case VK_PRIOR:
+    case VK_NEXT:
+    case VK_HOME:
+    case VK_END:
+    case VK_RETURN:
+    case VK_ESCAPE:
+    case VK_F4:
+    case VK_TAB:
+      return true;
+    default:
+      return false;
+  }
+}
+
+// Whether the character closes an open list, with the chosen or with the previous item.
 bool EndsList(WPARAM character) { return character == VK_RETURN || character == VK_ESCAPE; }
 
 bool Discards(HWND box, Typing typing, UINT message, WPARAM wParam) {
@@ -22,8 +43,10 @@ bool Discards(HWND box, Typing typing, UINT message, WPARAM wParam) {
       if (EndsList(wParam) && IsListOpen(box)) return false;
       return !Accepts(typing, static_cast<wchar_t>(wParam));
     case WM_KEYDOWN:
-      // An open list is worked with the same keys; without them a keyboard user could not choose.
-      return typing == Typing::Nothing && !IsListOpen(box);
+      return typing == Typing::Nothing && !WorksList(wParam);
+    case WM_SYSKEYDOWN:
+    case WM_SYSCHAR:
+      return typing == Typing::Nothing && wParam == VK_BACK;  // Alt+Backspace undoes a change
     case WM_PASTE:
     case WM_CUT:
     case WM_CLEAR:
@@ -54,7 +77,7 @@ bool Accepts(Typing typing, wchar_t character) {
 
 void FilterKeys(HWND box, Typing typing) {
   if (typing == Typing::Anything) return;
-  // Without an input method nobody has to switch it off before typing a digit.
+  // No input method, so that users need not switch it off to type a digit.
   ImmAssociateContext(box, nullptr);
   SetWindowSubclass(box, BoxProcedure, kSubclass, static_cast<DWORD_PTR>(typing));
 }

@@ -15,8 +15,8 @@ enum class Typing {
 // Whether a box that takes typing takes this character.
 bool Accepts(Typing typing, wchar_t character);
 
-// Makes box, an edit control, discard every other key silently. With Typing::Nothing it also
-// discards key presses, as long as its list is closed.
+// Makes box, an edit control, discard every other key silently. With Typing::Nothing only keys that
+// control the list pass, open or closed: nothing edits the text, not even the clipboard.
 void FilterKeys(HWND box, Typing typing);
 
 // The edit control of a drop-down list; null when it has none.

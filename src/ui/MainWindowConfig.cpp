@@ -33,21 +33,15 @@ settings::WindowValues MainWindowConfig::CurrentValues() const {
           BoxValue(face_.Control(chkTurnBack))};
 }
 
-std::int32_t MainWindowConfig::PutIntoBox(int id, std::int32_t value) {
-  SetBox(face_.Control(id), value);
-  return BoxValue(face_.Control(id));
-}
-
 std::int32_t MainWindowConfig::SetTurnBackBox(std::int32_t value) {
-  return PutIntoBox(chkTurnBack, value);
+  SetBox(face_.Control(chkTurnBack), value);
+  return BoxValue(face_.Control(chkTurnBack));
 }
 
-std::int32_t MainWindowConfig::SetDetailBox(std::int32_t value) {
-  return PutIntoBox(chkDetail, value);
-}
+void MainWindowConfig::SetDetailBox(std::int32_t value) { SetBox(face_.Control(chkDetail), value); }
 
-std::int32_t MainWindowConfig::SetAutoStopBox(std::int32_t value) {
-  return PutIntoBox(chkAutoStop, value);
+void MainWindowConfig::SetAutoStopBox(std::int32_t value) {
+  SetBox(face_.Control(chkAutoStop), value);
 }
 
 }  // namespace ui

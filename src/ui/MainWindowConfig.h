@@ -1,4 +1,4 @@
-// The main window as what the configuration file is applied to.
+// The main window as the window that the configuration is applied to.
 #pragma once
 
 #include "settings/ConfigFile.h"
@@ -20,16 +20,14 @@ class MainWindowConfig : public settings::ConfigWindow {
   settings::WindowValues CurrentValues() const override;
   void HighlightMousePos() override { face_.SetMousePosColour(kMousePosHighlight); }
   std::int32_t SetTurnBackBox(std::int32_t value) override;
-  std::int32_t SetDetailBox(std::int32_t value) override;
-  std::int32_t SetAutoStopBox(std::int32_t value) override;
+  void SetDetailBox(std::int32_t value) override;
+  void SetAutoStopBox(std::int32_t value) override;
   void SetVisibleTopPaneHeight(std::int32_t height) override {
     face_.SetVisibleTopPaneHeight(height);
   }
   void RunLayout() override { face_.Form_Resize(); }
 
  private:
-  std::int32_t PutIntoBox(int id, std::int32_t value);
-
   MainWindowFace& face_;
 };
 

@@ -26,8 +26,8 @@ constexpr const wchar_t* kStatic = L"STATIC";
 constexpr const wchar_t* kEdit = L"EDIT";
 constexpr const wchar_t* kButtonClass = L"BUTTON";
 
-// Twips. The band above the top pane is three rows high, each with a control at the right edge;
-// it is kept low, since the window may be as low as 3150.
+// Twips. The band above the top pane is three rows high, each with a control at the right edge; it
+// is kept low, because the window may be as low as 3150.
 constexpr ControlRow kRows[] = {
     {cmdGo, 0, kButtonClass, kButton, L"開始", {30, 30, 690, 345}},
     {cmdSetting, 0, kButtonClass, kButton, L"設定", {30, 390, 690, 345}},
@@ -41,22 +41,28 @@ constexpr ControlRow kRows[] = {
     {txthWnd, fr_Mous, kEdit, kBox, L"", {1065, 0, 1335, 255}},
     {txtWinTextT0, 0, kEdit, kScrollPane, L"", {30, 765, 5610, 1200}},
     {txtWinTextT1, 0, kEdit, kWrapPane, L"", {30, 765, 5610, 1200}},
-    {frCenter, 0, kFrameClass, kShown, L"", {30, 1965, 5610, 285}},
-    {lblTextKind, frCenter, kStatic, kLineLabel, L"", {0, 30, 1260, 240}},
-    {txtWin3, frCenter, kEdit, kBox, L"", {1290, 15, 780, 255}},
-    {txtWin1, frCenter, kEdit, kBox, L"", {2100, 15, 780, 255}},
+    {frCenter, 0, kFrameClass, kShown, L"", {30, 1965, 5610, 555}},
+    {lblTextKind, frCenter, kStatic, kLineLabel, L"", {0, 30, 1440, 240}},
+    {txtWin3, frCenter, kEdit, kBox, L"", {1470, 15, 690, 255}},
+    {txtWin1, frCenter, kEdit, kBox, L"", {2190, 15, 690, 255}},
     {txtWin2, frCenter, kEdit, kBox, L"", {2910, 15, 690, 255}},
-    {txtCount, frCenter, kEdit, kBox, L"", {3660, 15, 1140, 255}},
+    {lblListKind,
+     frCenter,
+     kStatic,
+     kLabel | SS_RIGHT | SS_ENDELLIPSIS,
+     L"",
+     {2160, 300, 1440, 240}},
+    {txtCount, frCenter, kEdit, kBox, L"", {3660, 285, 1140, 255}},
     {chkDetail, frCenter, kButtonClass, kCheckBox, L"詳細", {4860, 15, 750, 255}},
-    {imgSplitter, 0, kSplitterClass, kShown, L"", {30, 2250, 5610, 60}},
-    {txtWinTextB0, 0, kEdit, kScrollPane, L"", {30, 2310, 5610, 1200}},
-    {txtWinTextB1, 0, kEdit, kWrapPane, L"", {30, 2310, 5610, 1200}},
+    {imgSplitter, 0, kSplitterClass, kShown, L"", {30, 2520, 5610, 60}},
+    {txtWinTextB0, 0, kEdit, kScrollPane, L"", {30, 2580, 5610, 930}},
+    {txtWinTextB1, 0, kEdit, kWrapPane, L"", {30, 2580, 5610, 930}},
     {txtStatus, 0, kEdit, kBox, L"", {60, 3510, 5580, 255}},
     {lblMsg, 0, kStatic, kLineLabel, L"", {60, 3780, 3420, 225}},
     {fr_Help, 0, kFrameClass, kShown, L"", {3540, 3765, 2100, 240}},
     {Help_Url, fr_Help, WC_LINK, kTabStop, L"<a>ヘルプ</a>", {0, 15, 720, 225}},
     {MyUrl, fr_Help, WC_LINK, kTabStop, L"<a>ホームページ</a>", {780, 15, 1320, 225}},
-    {picSplitter, 0, kStatic, SS_GRAYRECT, L"", {30, 2250, 5610, 30}},
+    {picSplitter, 0, kStatic, SS_GRAYRECT, L"", {30, 2520, 5610, 30}},
 };
 
 using G = MainWindowGeometry;
@@ -66,7 +72,7 @@ constexpr MovedControl kMoved[] = {
     {lblStatus, &G::lblStatus},     {fr_Help, &G::fr_Help},         {lblMsg, &G::lblMsg},
     {txtStatus, &G::txtStatus},     {frCenter, &G::frCenter},       {imgSplitter, &G::imgSplitter},
     {picSplitter, &G::picSplitter}, {chkDetail, &G::chkDetail},     {txtCount, &G::txtCount},
-    {txtWin1, &G::txtWin1},         {txtWin2, &G::txtWin2},
+    {txtWin1, &G::txtWin1},         {txtWin2, &G::txtWin2},         {lblListKind, &G::lblListKind},
 };
 
 const TwipsRect& DesignPlace(int id) {

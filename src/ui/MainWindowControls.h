@@ -15,10 +15,10 @@ struct MovedControl {
   TwipsRect MainWindowGeometry::*place;
 };
 
-// All controls that the layout moves but the panes, of which it moves the members in use.
+// All controls that the layout moves, except the panes: of these it moves the members in use.
 std::span<const MovedControl> MovedControls();
 
-// Everything where the table above puts it.
+// The places of the table above.
 MainWindowGeometry DesignGeometry();
 
 // The member of a pane pair, 0 scrolls sideways and 1 wraps.

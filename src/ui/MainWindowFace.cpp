@@ -134,7 +134,8 @@ void MainWindowFace::SetMousePosColour(COLORREF colour) {
 
 HBRUSH MainWindowFace::PaintLabel(HDC dc, HWND control) const {
   const int id = GetDlgCtrlID(control);
-  // Boxes that cannot be edited are there to be read and copied; grey would make them look off.
+  // White: boxes that cannot be edited are there to be read and copied, and grey ones look
+  // disabled.
   const int background = IsBox(id) ? COLOR_WINDOW : COLOR_BTNFACE;
   SetBkColor(dc, GetSysColor(background));
   SetTextColor(dc, GetSysColor(IsBox(id) ? COLOR_WINDOWTEXT : COLOR_BTNTEXT));

@@ -1,5 +1,5 @@
-// The face of the main window: its controls, where they are, their fonts, tips and colours. It
-// knows how to show things, and nothing of when.
+// The face of the main window: its controls, their places, fonts, tips and colours. It shows
+// things; other rooms decide when.
 #pragma once
 
 #include <windows.h>
@@ -42,7 +42,7 @@ class MainWindowFace {
   // Puts text into a pane and its character counts into the pane's tool tip.
   void SetPaneText(HWND pane, const std::wstring& text);
 
-  // Lays the window out anew; does nothing while the layout is held back or the window is
+  // Lays the window out again; does nothing while the layout is held back or the window is
   // minimised.
   void Form_Resize();
   void HoldLayout(bool hold) { layoutHeld_ = hold; }
@@ -58,7 +58,7 @@ class MainWindowFace {
   // as the setting "top height" and lays out.
   void SetTopPaneHeight(std::int32_t position);
 
-  // Uses the other member of each pane pair, with the texts of the former, and lays out.
+  // Uses the given member of each pane pair, with the texts of the previous one, and lays out.
   void TurnPanesBack(std::int32_t member);
 
   // The splitter bar: shown at the grip, moved to a top position in twips, hidden.

@@ -36,8 +36,7 @@ MainWindowGeometry Layout(MainWindowGeometry g, const LayoutSizes& sizes, std::i
   FlushRight(g.fr_Mous, SW);
   SetWidth(g.lblStatus, g.fr_Mous.left - g.lblStatus.left - 2 * scale.TwipsPerPixelX);
 
-  // The foot keeps the horizontal factor also for its vertical margins; where the two factors
-  // differ, the foot stays where users know it.
+  // The horizontal factor for vertical margins. Odd, and stays: docs/ODDITIES.md.
   FlushRight(g.fr_Help, SW);
   g.fr_Help.top = SH - g.fr_Help.height - 5 * scale.TwipsPerPixelX;
   g.lblMsg.top = g.fr_Help.top + 3 * scale.TwipsPerPixelX;
@@ -49,6 +48,7 @@ MainWindowGeometry Layout(MainWindowGeometry g, const LayoutSizes& sizes, std::i
 
   g.T.left = kPaneLeft;
   SetWidth(g.T, SW - kPaneLeft);
+  // A pane that was shrunk stays small. Odd, and stays: docs/ODDITIES.md.
   if (g.T.Bottom() > SH + kTopPaneSlack) {
     if (SetHeight(g.T, SH - g.T.top - kRoomBelowTopPane)) {
       topHeight = AsReported(g.T.height, scale);
@@ -69,18 +69,20 @@ MainWindowGeometry Layout(MainWindowGeometry g, const LayoutSizes& sizes, std::i
   g.B.left = g.T.left;
   g.B.top = g.imgSplitter.Bottom();
   SetWidth(g.B, SW - g.B.left);
-  // One twip into the status box: there is never a gap between the two, however twips round.
+  // One twip into the status box. Odd, and stays: docs/ODDITIES.md.
   SetHeight(g.B, g.txtStatus.top + 1 - g.B.top);
 
   FlushRight(g.chkDetail, g.frCenter.width);
   g.txtCount.left = g.chkDetail.left - g.txtCount.width - 4 * scale.TwipsPerPixelX;
   SetWidth(g.txtWin2, g.txtCount.left - g.txtWin2.left);
   g.txtWin2.top = g.txtWin1.top;
+  g.lblListKind.left = g.txtCount.left - g.lblListKind.width - 4 * scale.TwipsPerPixelX;
   return g;
 }
 
 std::int32_t SplitterPosition(std::int32_t gripTop, std::int32_t y, std::int32_t SH) {
   const std::int32_t position = gripTop + y;
+  // In a low window the limits cross. Odd, and stays: docs/ODDITIES.md.
   if (position < kSplitterLimit) return kSplitterLimit;
   if (position >= SH - kSplitterLimit) return SH - kSplitterLimit;
   return position;

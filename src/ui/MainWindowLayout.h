@@ -27,6 +27,7 @@ struct MainWindowGeometry {
   TwipsRect txtStatus;
   TwipsRect chkDetail;  // this and the following in frCenter
   TwipsRect txtCount;
+  TwipsRect lblListKind;
   TwipsRect txtWin1;
   TwipsRect txtWin2;
 
@@ -39,9 +40,9 @@ struct LayoutSizes {
   TwipsScale scale;
 };
 
-// Lays out the window anew from where the controls are now. topHeight is the setting: the top pane
-// gets it when it fits, else it is shrunk and so is the setting. A step that would make a size
-// negative changes nothing; the others still count.
+// Computes the new layout from the current places of the controls. topHeight is the setting: the
+// top pane gets it when it fits, else it is shrunk and so is the setting. A step that would make a
+// size negative is skipped; the others still run.
 MainWindowGeometry Layout(MainWindowGeometry now, const LayoutSizes& sizes,
                           std::int32_t& topHeight);
 

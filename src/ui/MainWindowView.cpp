@@ -36,6 +36,8 @@ HWND MainWindowView::ControlOf(ViewText part) const {
       return face_.Control(txtStatus);
     case ViewText::lblTextKind:
       return face_.Control(lblTextKind);
+    case ViewText::lblListKind:
+      return face_.Control(lblListKind);
     case ViewText::TopPane:
       return face_.TopPane();
     case ViewText::BottomPane:
@@ -57,7 +59,7 @@ void MainWindowView::SetText(ViewText part, const std::wstring& text) {
   } else {
     SetWindowTextW(ControlOf(part), text.c_str());
   }
-  // Not assigned: a huge text would keep its memory.
+  // Swapped, not assigned: an assignment would keep the memory of a huge text.
   std::wstring(text).swap(shown);
 }
 
@@ -82,7 +84,7 @@ void MainWindowView::BringToFront() {
 void MainWindowView::HideMainWindow() { ShowWindow(face_.Window(), SW_HIDE); }
 
 void MainWindowView::EnableTimer(CaptureTimer timer, bool enable) {
-  // An identifier of 0 would make the system choose one of its own.
+  // With an identifier of 0 the system would choose one.
   const auto id = static_cast<UINT_PTR>(timer) + 1;
   if (!enable) {
     KillTimer(face_.Window(), id);

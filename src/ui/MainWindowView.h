@@ -42,7 +42,7 @@ class MainWindowView : public capture::CaptureView {
   const settings::Settings& settings_;
   Markers markers_;
   std::wstring handleTag_;
-  // What each part shows. Nothing else writes there, and asking the controls several times in
+  // What each part shows. Nothing else writes there, and reading the controls several times in
   // every pass would cost more than the pass itself.
   std::map<capture::ViewText, std::wstring> shown_;
 };

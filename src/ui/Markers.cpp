@@ -14,6 +14,7 @@ struct MarkerPlan {
   int dy;
 };
 
+// Not symmetric. Odd, and stays: docs/ODDITIES.md.
 constexpr std::array<MarkerPlan, kMarkerCount> kMarkers{{
     {L"frmP0", -2, -2},
     {L"frmP1", 2, -2},
@@ -27,7 +28,7 @@ bool IsThisProgramInFront() {
   return process == GetCurrentProcessId();
 }
 
-// While it lives, no window of this thread becomes active or gets the focus.
+// While it exists, no window of this thread becomes active or gets the focus.
 class ActivationRefused {
  public:
   ActivationRefused() : hook_(SetWindowsHookExW(WH_CBT, Refuse, nullptr, GetCurrentThreadId())) {}
@@ -57,7 +58,7 @@ class Marker : public Window {
   explicit Marker(const MarkerPlan& plan) : red_(CreateSolidBrush(RGB(255, 0, 0))) {
     WindowPlan window{plan.name};
     window.style = WS_POPUP;
-    // Layered and transparent: the pointer, and who asks for the window at a point, look through.
+    // Layered and transparent: the pointer and WindowFromPoint ignore it.
     window.exStyle =
         WS_EX_TOPMOST | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_LAYERED | WS_EX_TRANSPARENT;
     window.place = {0, 0, kMarkerSize, kMarkerSize};
@@ -116,9 +117,9 @@ void Markers::Show(bool visible) {
 
 void Markers::CallToFront() {
   if (!IsThisProgramInFront()) return;
-  // Showing them has put them on top already. The activation that comes with the calls is refused:
-  // once a second it would take the focus from whoever types in one of our dialogs, and close the
-  // list that is open there.
+  // Showing them has put them on top already. The activation that these calls cause is refused:
+  // once a second it would take the focus from a user who types in one of our dialogs, and close an
+  // open list there.
   const ActivationRefused refused;
   if (!refused.IsInForce()) return;
   for (const auto& marker : markers_) SetForegroundWindow(marker->Handle());

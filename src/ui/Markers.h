@@ -21,8 +21,8 @@ class Markers {
   Markers();
   ~Markers();
 
-  // Shows or hides all four; loads them when they are needed first. Neither the focus nor the
-  // window in front changes, and no menu closes.
+  // Shows or hides all four; loads them on first use. Neither the focus nor the window in front
+  // changes, and no menu closes.
   void Show(bool visible);
 
   // Moves them to the four diagonal corners of point (screen pixels).

@@ -7,8 +7,8 @@
 namespace ui {
 namespace {
 
-// The fixed part of the version resource stands behind the header's key, on a 32-bit boundary, and
-// begins with this signature.
+// The fixed part of the version resource follows the header's key, on a 32-bit boundary, and begins
+// with this signature.
 const VS_FIXEDFILEINFO* FixedInfo(const void* resource, DWORD size) {
   constexpr DWORD kSignature = VS_FFI_SIGNATURE;
   const auto* const bytes = static_cast<const char*>(resource);

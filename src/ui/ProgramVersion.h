@@ -1,4 +1,4 @@
-// The program's version as its version resource tells it.
+// The program's version, from its version resource.
 #pragma once
 
 #include <cstdint>
@@ -6,7 +6,8 @@
 
 namespace ui {
 
-// major "." minor followed directly by revision: 1, 2, 3 gives "1.23".
+// major "." minor followed directly by revision: 1, 2, 3 gives "1.23". Odd, and stays:
+// docs/ODDITIES.md.
 std::wstring VersionTextOf(std::uint32_t major, std::uint32_t minor, std::uint32_t revision);
 
 // The version text of the running program; "0.00" when it has no version resource.

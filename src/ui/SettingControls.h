@@ -15,7 +15,7 @@ namespace ui {
 // How a control holds its setting.
 enum class Holds {
   Nothing,
-  Box,          // a check box: 0 or 1
+  Box,          // a check box: 0 or 1 once it is clicked
   Option,       // an option button: the setting is its number when it is the chosen one
   ListIndex,    // a drop-down list: the index of the chosen item
   ListNumber,   // a drop-down list: the number that its text begins with, chosen or typed
@@ -41,8 +41,5 @@ std::span<const SettingControl> SettingControls();
 
 // The row of that number; null when there is none.
 const SettingControl* FindSettingControl(int id);
-
-// number in decimal, filled up with blanks on the left.
-std::wstring RightAligned(std::int32_t number, std::int32_t width);
 
 }  // namespace ui

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "settings/ConfigText.h"
+#include "platform/NumberText.h"
 
 namespace ui {
 namespace {
@@ -17,15 +17,17 @@ std::wstring ItemText(HWND list, WPARAM index) {
 
 WPARAM ChosenItem(HWND list) { return static_cast<WPARAM>(SendMessageW(list, CB_GETCURSEL, 0, 0)); }
 
-// When an item has just been chosen, the text of the box still is the one before.
+// When an item has just been chosen, the box still has the previous text.
 std::wstring ListText(HWND list, int notification) {
   return notification == CBN_SELCHANGE ? ItemText(list, ChosenItem(list)) : WindowText(list);
 }
 
 void ShowListNumber(const SettingControl& control, HWND list, std::int32_t value) {
   const bool hasBlank = control.items.front()[0] == L'\0';
-  const std::wstring text =
-      hasBlank && value == 0 ? std::wstring() : RightAligned(value, control.number);
+  const std::wstring text = hasBlank && value == 0
+                                ? std::wstring()
+                                : platform::RightAligned(std::to_wstring(value),
+                                                         static_cast<std::size_t>(control.number));
   for (std::size_t i = 0; i < control.items.size(); ++i) {
     if (text != control.items[i]) continue;
     SendMessageW(list, CB_SETCURSEL, i, 0);
@@ -46,15 +48,14 @@ void PrepareControl(const SettingControl& control, HWND window) {
   }
 }
 
-void ShowSetting(const SettingControl& control, HWND window, settings::Settings& settings) {
+void ShowSetting(const SettingControl& control, HWND window, const settings::Settings& settings) {
   if (control.setting == nullptr) return;
-  std::int32_t& value = settings.*control.setting;
+  const std::int32_t value = settings.*control.setting;
   switch (control.holds) {
     case Holds::Nothing:
       break;
     case Holds::Box:
       SetBox(window, value);
-      value = BoxValue(window);
       break;
     case Holds::Option:
       SetBox(window, value == control.number ? 1 : 0);
@@ -104,10 +105,10 @@ bool StoreSetting(const SettingControl& control, HWND window, int notification,
       value = static_cast<std::int32_t>(ChosenItem(window));
       break;
     case Holds::ListNumber:
-      value = settings::LeadingNumber(ListText(window, notification));
+      value = platform::LeadingNumber(ListText(window, notification));
       break;
     case Holds::TypedNumber:
-      value = settings::LeadingNumber(WindowText(window));
+      value = platform::LeadingNumber(WindowText(window));
       break;
   }
   return std::exchange(settings.*control.setting, value) != value;

@@ -1,4 +1,4 @@
-// The way between a control of the settings dialog and the setting that it holds.
+// From a setting to its control in the settings dialog, and back.
 #pragma once
 
 #include <windows.h>
@@ -11,10 +11,11 @@ namespace ui {
 // Fills a drop-down list with its items and gives a box its key filter.
 void PrepareControl(const SettingControl& control, HWND window);
 
-// Shows the setting in its control. A setting in a check box becomes what the box then holds.
-void ShowSetting(const SettingControl& control, HWND window, settings::Settings& settings);
+// Shows the setting in its control: a check box is ticked for every value but 0, and a value that
+// an option or list does not have chooses nothing.
+void ShowSetting(const SettingControl& control, HWND window, const settings::Settings& settings);
 
-// Whether that notification code tells that the user changed the setting.
+// Whether that notification code means that the user changed the setting.
 bool TellsChange(const SettingControl& control, int notification);
 
 // Stores what the control holds after that notification; returns whether the setting changed.

@@ -1,5 +1,5 @@
-// The strip that the user drags to share the height between the panes. It only tells its parent
-// what the mouse does.
+// The strip that the user drags to share the height between the panes. It only reports the mouse to
+// its parent.
 #pragma once
 
 #include <windows.h>
@@ -15,7 +15,7 @@ enum SplitterEvent : WPARAM {
   kSplitterPress,
   kSplitterMove,
   kSplitterRelease,
-  kSplitterCancel,  // the mouse was taken away in the middle of a drag
+  kSplitterCancel,  // another window took the mouse during a drag
 };
 
 void RegisterSplitterClass();

@@ -7,8 +7,7 @@
 namespace ui {
 namespace {
 
-// The structure's size of the first common controls that had tool tips for windows, which every
-// version takes.
+// The oldest size of the structure, which every version of the common controls accepts.
 const UINT kToolSize = TTTOOLINFOW_V1_SIZE;
 constexpr UINT kWidthAt96Dpi = 400;  // pixels
 
@@ -25,8 +24,8 @@ TTTOOLINFOW ToolFor(HWND owner, HWND control) {
 
 void ToolTips::Create(HWND owner, UINT dpi) {
   owner_ = owner;
-  // Not owned by it: a window with an owned topmost window is put behind that one instead of into
-  // the topmost band.
+  // Not owned by it: the system puts the owner of a topmost window behind that window instead of
+  // into the topmost band.
   window_ = platform::UniqueWindow(CreateWindowExW(
       WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0, 0,
       nullptr, nullptr, GetModuleHandleW(nullptr), nullptr));

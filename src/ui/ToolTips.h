@@ -15,7 +15,7 @@ class ToolTips {
   // Tips belong to owner's controls; lines are broken at a width that suits dpi.
   void Create(HWND owner, UINT dpi);
 
-  // Shows text while the pointer rests over control; an empty text takes the tip away.
+  // Shows text while the pointer rests over control; an empty text removes the tip.
   void Set(HWND control, const std::wstring& text);
 
   // What Set was last given for control, up to 1023 characters.

@@ -39,14 +39,14 @@ struct TwipsScale {
   std::int32_t TwipsX(std::int32_t pixels) const { return pixels * TwipsPerPixelX; }
   std::int32_t TwipsY(std::int32_t pixels) const { return pixels * TwipsPerPixelY; }
 
-  // Edges are rounded one by one, so that neighbours neither overlap nor leave a gap.
+  // Each edge is rounded separately, so that neighbours neither overlap nor leave a gap.
   RECT Pixels(const TwipsRect& rect) const {
     return {PixelsX(rect.left), PixelsY(rect.top), PixelsX(rect.Right()), PixelsY(rect.Bottom())};
   }
 };
 
-// The scale of a window at dpi dots per inch. Where 1440 is no multiple of it the whole part
-// counts: controls come out a little larger than their texts, never smaller.
+// The scale of a window at dpi dots per inch. When 1440 is not a multiple of dpi, the whole part of
+// the quotient is used: controls become a little larger than their texts, never smaller.
 constexpr TwipsScale ScaleForDpi(UINT dpi) {
   const auto twips = static_cast<std::int32_t>(1440 / dpi);
   return {twips, twips};

@@ -27,7 +27,7 @@ struct WindowPlan {
   HWND parentOrOwner = nullptr;
   HICON icon = nullptr;
   HICON smallIcon = nullptr;
-  HBRUSH background = nullptr;                     // stays the caller's
+  HBRUSH background = nullptr;                     // owned by the caller
   RECT place{CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};  // left, top, width, height in pixels
 };
 
@@ -45,7 +45,8 @@ class Window {
   // whether it was created.
   bool Create(const WindowPlan& plan);
 
-  // One call a message, DefWindowProc for the rest. An exception that leaves it is swallowed.
+  // Called for every message; passes what it does not handle to Default. Exceptions that leave it
+  // are swallowed.
   virtual LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) = 0;
 
   LRESULT Default(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -74,6 +74,7 @@ bool frmOption::Form_Load() {
     if (name == settings_.hotkey) SendMessageW(list, CB_SETCURSEL, i, 0);
   }
   SetBox(Control(chkEnableHotT), settings_.enableHotT);
+  hotTClicked_ = false;
   return true;
 }
 
@@ -82,6 +83,10 @@ LRESULT frmOption::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED &&
       (id == cmdClose0 || id == cmdClose1)) {
     cmdClose_Click(id - cmdClose0);
+    return 0;
+  }
+  if (message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED && id == chkEnableHotT) {
+    hotTClicked_ = true;
     return 0;
   }
   if (message == WM_CLOSE) {
@@ -96,17 +101,17 @@ void frmOption::cmdClose_Click(int index) {
     const LRESULT chosen = SendMessageW(Control(cmbHotKey), CB_GETCURSEL, 0, 0);
     if (chosen != CB_ERR) {
       settings_.hotkey = MySub_HotKey::HotKeyNames[static_cast<std::size_t>(chosen)];
-      // Any earlier press of the key is news to the poll, and would start a capture now.
+      // Clears earlier presses of the key, which would start a capture now.
       MySub_HotKey::HotKeyPressed(MySub_HotKey::HotKeyCode(settings_.hotkey),
                                   settings::SystemKeyboard());
     }
-    settings_.enableHotT = BoxValue(Control(chkEnableHotT));
+    if (hotTClicked_) settings_.enableHotT = BoxValue(Control(chkEnableHotT));
   }
   Unload();
 }
 
 void frmOption::Unload() {
-  // First the owner, so that the focus goes back to it and not to another program.
+  // The owner first, so that the focus returns to it and not to another program.
   EnableWindow(owner_, TRUE);
   Close();
   closed_();

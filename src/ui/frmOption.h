@@ -30,6 +30,7 @@ class frmOption : public Dialog {
   settings::Settings& settings_;
   std::function<void()> closed_;
   HWND owner_ = nullptr;
+  bool hotTClicked_ = false;  // since the dialog was opened
 };
 
 }  // namespace ui

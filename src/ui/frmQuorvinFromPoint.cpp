@@ -2,12 +2,13 @@
 
 #include <utility>
 
+#include "capture/CaptureWords.h"
 #include "capture/IdleKeys.h"
 #include "capture/PointerSampling.h"
 #include "capture/ReportComposer.h"
-#include "capture/SystemReaders.h"
 #include "extract/Win32API_Window.h"
 #include "platform/MessagePump.h"
+#include "report/SystemReaders.h"
 #include "ui/AppIcon.h"
 #include "ui/ControlIds.h"
 #include "ui/HelpLinks.h"
@@ -47,15 +48,29 @@ bool frmQuorvinFromPoint::Load() {
   if (!Create(plan)) return false;
   platform::AddDialog(Handle());
   system_ = capture::MakeCaptureSystem(Handle());
-  readers_ = capture::MakeSystemReaders(settings_);
+  readers_ = report::MakeSystemReaders(settings_);
   loop_ = std::make_unique<capture::CaptureLoop>(
       Context(), [this] { capture::ComposeReport(Context(), *readers_); }, plan_.commandLine);
-  Form_Load(*this, settings_, plan_.commandLine);
+  Form_Load();
   return true;
 }
 
 capture::CaptureContext frmQuorvinFromPoint::Context() {
   return {state_, settings_, view_, *system_};
+}
+
+void frmQuorvinFromPoint::Form_Load() {
+  ShowVersion();
+  TakeTwipsPerPixel();
+  PrepareLabels();
+  LoadConfig();
+  ApplyDisplaySettings();
+  capture::ShowStopHint(Context());
+  state_.ActionKeyCode = std::to_wstring(VK_CONTROL);
+  view_.EnableTimer(CaptureTimer::Timer_MsgLoop, true);
+  if (capture::StartsByItself(settings_, plan_.commandLine)) {
+    view_.EnableTimer(CaptureTimer::Timer_Go, true);
+  }
 }
 
 void frmQuorvinFromPoint::ShowVersion() {
@@ -94,16 +109,6 @@ void frmQuorvinFromPoint::ApplyDisplaySettings() {
   ShowMousePosTip();
 }
 
-void frmQuorvinFromPoint::ShowStopHint() { capture::ShowStopHint(Context()); }
-
-void frmQuorvinFromPoint::SetActionKey() { state_.ActionKeyCode = std::to_wstring(VK_CONTROL); }
-
-void frmQuorvinFromPoint::StartIdlePolling() {
-  view_.EnableTimer(CaptureTimer::Timer_MsgLoop, true);
-}
-
-void frmQuorvinFromPoint::StartCaptureSoon() { view_.EnableTimer(CaptureTimer::Timer_Go, true); }
-
 LRESULT frmQuorvinFromPoint::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_COMMAND:
@@ -118,7 +123,7 @@ LRESULT frmQuorvinFromPoint::HandleMessage(UINT message, WPARAM wParam, LPARAM l
       return 0;
     case WM_GETMINMAXINFO: {
       const TwipsScale& scale = face_.Scale();
-      // Rounded up: the height in twips must not come out below the least.
+      // Rounded up: the height in twips must not be below the least one.
       const LONG least = (kMinOuterHeight + scale.TwipsPerPixelY - 1) / scale.TwipsPerPixelY;
       reinterpret_cast<MINMAXINFO*>(lParam)->ptMinTrackSize = {0, least};
       return 0;
@@ -168,7 +173,7 @@ void frmQuorvinFromPoint::OnTimer(CaptureTimer timer) {
 
 void frmQuorvinFromPoint::OnDpiChanged(UINT dpi, const RECT& suggested) {
   face_.ApplyDpi(dpi);
-  // While the saved placement is being applied the window stays where that puts it.
+  // While the saved placement is applied, the window keeps that place.
   if (face_.IsLayoutHeld()) return;
   SetWindowPos(Handle(), nullptr, suggested.left, suggested.top, suggested.right - suggested.left,
                suggested.bottom - suggested.top, SWP_NOZORDER | SWP_NOACTIVATE);
@@ -180,7 +185,7 @@ void frmQuorvinFromPoint::SaveConfig() {
 
 void frmQuorvinFromPoint::Form_Unload() {
   if (state_.CaptureRunning) {
-    // Deliberately without saving: what was changed during a capture that is cut off is a try.
+    // Without saving. Odd, and stays: docs/ODDITIES.md.
     state_.CaptureRunning = false;
     state_.RunState = capture::kUnload;
   } else {

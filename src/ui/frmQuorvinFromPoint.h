@@ -1,4 +1,4 @@
-// The main window: what its messages do.
+// The main window: what its messages do. Names like this one are odd, and stay: docs/ODDITIES.md.
 #pragma once
 
 #include <functional>
@@ -8,13 +8,12 @@
 #include "capture/CaptureLoop.h"
 #include "capture/CaptureState.h"
 #include "capture/CaptureSystem.h"
-#include "capture/ReportReaders.h"
+#include "report/ReportReaders.h"
 #include "settings/Settings.h"
 #include "ui/DialogKeys.h"
 #include "ui/MainWindowConfig.h"
 #include "ui/MainWindowFace.h"
 #include "ui/MainWindowView.h"
-#include "ui/StartUp.h"
 #include "ui/Window.h"
 #include "ui/frmSetting.h"
 
@@ -26,7 +25,7 @@ struct MainWindowPlan {
   std::function<void()> endProgram;
 };
 
-class frmQuorvinFromPoint : public Window, private StartUpSteps {
+class frmQuorvinFromPoint : public Window {
  public:
   frmQuorvinFromPoint(settings::Settings& settings, capture::CaptureState& state,
                       MainWindowPlan plan);
@@ -39,16 +38,13 @@ class frmQuorvinFromPoint : public Window, private StartUpSteps {
   LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
-  // Start-up.
-  void ShowVersion() override;
-  void TakeTwipsPerPixel() override;
-  void PrepareLabels() override;
-  void LoadConfig() override;
-  void ApplyDisplaySettings() override;
-  void ShowStopHint() override;
-  void SetActionKey() override;
-  void StartIdlePolling() override;
-  void StartCaptureSoon() override;
+  // Start-up, in this order; later steps rely on earlier ones.
+  void Form_Load();
+  void ShowVersion();
+  void TakeTwipsPerPixel();
+  void PrepareLabels();
+  void LoadConfig();
+  void ApplyDisplaySettings();
 
   // Messages.
   LRESULT OnCommand(int id, int notification);
@@ -86,7 +82,7 @@ class frmQuorvinFromPoint : public Window, private StartUpSteps {
   MainWindowView view_;
   MainWindowConfig config_;
   std::unique_ptr<capture::CaptureSystem> system_;
-  std::unique_ptr<capture::ReportReaders> readers_;
+  std::unique_ptr<report::ReportReaders> readers_;
   std::unique_ptr<capture::CaptureLoop> loop_;
   frmSetting setting_;
   FocusMemory focus_;

@@ -32,7 +32,7 @@ frmSetting::frmSetting(settings::Settings& settings, capture::CaptureState& stat
 void frmSetting::Show(HWND owner) {
   if (Handle() == nullptr && !Form_Load(owner)) return;
   ShowWindow(Handle(), SW_SHOW);
-  // While the hot-key dialog is open, it is the one that can be used.
+  // While the hot-key dialog is open, only that dialog can be used.
   SetForegroundWindow(GetLastActivePopup(Handle()));
 }
 
@@ -54,7 +54,7 @@ bool frmSetting::Form_Load(HWND owner) {
 
   const POINT place = Reachable(stored, OuterSize(), WorkArea());
   SetWindowPos(Handle(), HWND_TOPMOST, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
-  lblButton_Click(page);
+  ShowPage(page);
   for (const SettingControl& control : SettingControls()) {
     const HWND window = Control(control.row.id);
     PrepareControl(control, window);
@@ -83,7 +83,7 @@ LRESULT frmSetting::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       return 0;
     }
     case WM_CLOSE:
-      // The hot-key dialog is modal: first that one has to be answered.
+      // The hot-key dialog is modal, so it must be closed first.
       if (option_.Handle() == nullptr) Unload();
       return 0;
     default:
@@ -115,7 +115,7 @@ void frmSetting::Form_Resize() {
 }
 
 void frmSetting::PaintPageButton(const DRAWITEMSTRUCT& item) const {
-  const bool chosen = static_cast<std::int32_t>(item.CtlID) == lblButton0 + settings_.settingNo;
+  const bool chosen = static_cast<std::int32_t>(item.CtlID) == lblButton0 + page_;
   const HDC dc = item.hDC;
   RECT area = item.rcItem;
   SetDCBrushColor(dc, chosen ? GetSysColor(COLOR_HIGHLIGHT) : kPageButtonColour);
@@ -132,6 +132,11 @@ void frmSetting::PaintPageButton(const DRAWITEMSTRUCT& item) const {
 
 void frmSetting::lblButton_Click(std::int32_t page) {
   settings_.settingNo = page;
+  ShowPage(page);
+}
+
+void frmSetting::ShowPage(std::int32_t page) {
+  page_ = page;
   for (int i = 0; i < kSettingPages; ++i) {
     ShowWindow(Control(FrList0 + i), i == page ? SW_SHOWNA : SW_HIDE);
     InvalidateRect(Control(lblButton0 + i), nullptr, FALSE);
@@ -154,7 +159,7 @@ void frmSetting::txtShift_LostFocus() {
 
 void frmSetting::Store(const SettingControl& control, int notification) {
   const bool changed = StoreSetting(control, Control(control.row.id), notification, settings_);
-  // What is on the screen shall look as the new setting has it.
+  // The panes should follow the new setting.
   if (changed && state_.CaptureRunning) state_.RefreshRequest = 1;
 }
 
@@ -170,6 +175,7 @@ void frmSetting::ShowHotKey() { SetWindowTextW(Control(lblHotKey), settings_.hot
 void frmSetting::cmdHotKey_Click() { option_.Show(Handle()); }
 
 void frmSetting::cmdClose_Click() {
+  // The close box of the window does not do this. Odd, and stays: docs/ODDITIES.md.
   RECT place{};
   GetWindowRect(Handle(), &place);
   const TwipsScale screen{state_.TwipsPerPixelX, state_.TwipsPerPixelY};
@@ -179,7 +185,7 @@ void frmSetting::cmdClose_Click() {
 }
 
 void frmSetting::Unload() {
-  // Not every way to close takes the focus from a box before.
+  // A box may still have the focus, with a number that is not stored yet.
   txtShift_LostFocus();
   Close();
   closed_();

@@ -34,6 +34,7 @@ class frmSetting : public Dialog {
   void PaintPageButton(const DRAWITEMSTRUCT& item) const;
 
   void lblButton_Click(std::int32_t page);
+  void ShowPage(std::int32_t page);
   void Change(const SettingControl& control, int notification);
   void txtShift_LostFocus();
   void cmdHotKey_Click();
@@ -48,6 +49,7 @@ class frmSetting : public Dialog {
   capture::CaptureState& state_;
   std::function<void()> closed_;
   std::vector<ControlRow> rows_;
+  std::int32_t page_ = 0;  // the one that is shown
   frmOption option_;
 };
 

@@ -1,5 +1,5 @@
-// An accessible object of our own, for tests: it says what it is told to say, and notes what it is
-// asked. Its children are objects and simple elements, numbered together from 1.
+// An accessible object for tests: it answers what a test sets, and records the calls. Its children
+// are objects and simple elements, numbered together from 1.
 #pragma once
 
 #include <windows.h>
@@ -30,7 +30,7 @@ class Node : public IAccessible, private IEnumVARIANT {
  public:
   explicit Node(Members own) : own_(std::move(own)) {}
 
-  // Children are not owned; they must live as long as this.
+  // Children are not owned; they must exist as long as this.
   void AddElement(Members element) { children_.push_back({std::move(element), nullptr}); }
   void AddObject(Node& child) {
     children_.push_back({{}, &child});
@@ -42,7 +42,7 @@ class Node : public IAccessible, private IEnumVARIANT {
 
   Node* parent = nullptr;
 
-  // Beside the members, what a test wants to go wrong or otherwise.
+  // In addition to the members, what a test wants to fail or to differ.
   std::map<std::string, HRESULT> failures;  // by the member's name; "" stands for every member
   long claimedChildren = -1;                // what accChildCount says instead of the truth
   bool answersEveryChild = false;           // any child number has the object's own members
@@ -51,7 +51,7 @@ class Node : public IAccessible, private IEnumVARIANT {
   std::function<void(const std::string& member)> onCall;
   std::function<void(const std::string& action)> onAction;
 
-  // Every call of a member: its name, and the child it was asked for ("-" for none left out).
+  // Every call of a member: its name, and its child ("-" when the child is left out).
   std::vector<std::string> calls;
   // The actions performed, with their child.
   std::vector<std::string> actions;
@@ -106,10 +106,10 @@ class Node : public IAccessible, private IEnumVARIANT {
   };
 
   void Perform(const std::string& action);
-  // Notes the call; what the member shall fail with, or S_OK.
+  // Records the call; returns what the member should fail with, or S_OK.
   HRESULT Enter(const char* member, const std::string& detail);
   HRESULT Enter(const char* member, const VARIANT& child);
-  // The members that the child stands for; null when there is no such child.
+  // The members of the child; null when there is no such child.
   const Members* Of(const VARIANT& child) const;
   HRESULT Text(const char* member, const VARIANT& child, std::wstring Members::*text, BSTR* answer);
   HRESULT GiveChild(long number, VARIANT* child);

@@ -1,10 +1,10 @@
-// A target for tests: a window without a frame whose accessible objects are our own.
+// A target for tests: a window without a frame, with accessible objects for tests.
 //
 //   accessible_fixture.exe [parent=PID] [deadline=SECONDS] [title=CAPTION]
 //                          [place=X,Y,WIDTH,HEIGHT] SCENE[=VALUE]
 //
-// The scenes stand in Scenes.h, the other words in the fixture's CommandLine.h. Once the window
-// stands, "main=HANDLE" (decimal) and the line "ready" go to the standard output. Each action that
+// The scenes are in Scenes.h, the other words in the fixture's CommandLine.h. Once the window
+// exists, "main=HANDLE" (decimal) and the line "ready" go to the standard output. Each action that
 // is performed on an object is added to the window's caption, as "ACTION@TICK;". The program ends
 // when its window is closed, when its parent ends and at its deadline. Exit codes: 0 closed, 2
 // unknown scene, 3 parent gone or deadline passed, 4 COM refuses.

@@ -1,4 +1,4 @@
-// The accessible fixture, run in a process of its own.
+// The accessible fixture, run in its own process.
 #pragma once
 
 #include <windows.h>
@@ -13,8 +13,8 @@ namespace accessible {
 
 class FixtureProcess {
  public:
-  // words: of its command line, see FixtureMain.cpp. Waits until its window stands. Throws
-  // std::runtime_error when that does not come about.
+  // words: of its command line, see FixtureMain.cpp. Waits until its window exists. Throws
+  // std::runtime_error when that does not happen.
   explicit FixtureProcess(std::string_view words);
 
   HWND Window() const { return process_["main"]; }

@@ -84,6 +84,14 @@ void BuildRows(const std::wstring& value, const RECT& place, Scene& scene) {
   }
 }
 
+void BuildCommas(const std::wstring&, const RECT& place, Scene& scene) {
+  scene.windowClass = L"FixtureListView";
+  Node& root = Root(scene, place);
+  for (const wchar_t* const name : {L"林檎\t蜜柑", L"赤,橙", L"\"果物\""}) {
+    root.AddElement({.name = name, .role = ROLE_SYSTEM_LISTITEM, .place = place});
+  }
+}
+
 void BuildCycle(const std::wstring& value, const RECT& place, Scene& scene) {
   BuildFruit(value, place, scene);
   scene.nodes.front().parent = &scene.nodes.back();
@@ -149,10 +157,11 @@ struct SceneWord {
 };
 
 constexpr SceneWord kScenes[] = {
-    {L"fruit", BuildFruit},       {L"tree", BuildTree},         {L"objects", BuildObjects},
-    {L"rows", BuildRows},         {L"cycle", BuildCycle},       {L"endless", BuildEndless},
-    {L"claims", BuildClaims},     {L"huge", BuildHuge},         {L"codes", BuildCodes},
-    {L"roleless", BuildRoleless}, {L"overflow", BuildOverflow}, {L"dies", BuildDies},
+    {L"fruit", BuildFruit},     {L"tree", BuildTree},         {L"objects", BuildObjects},
+    {L"rows", BuildRows},       {L"commas", BuildCommas},     {L"cycle", BuildCycle},
+    {L"endless", BuildEndless}, {L"claims", BuildClaims},     {L"huge", BuildHuge},
+    {L"codes", BuildCodes},     {L"roleless", BuildRoleless}, {L"overflow", BuildOverflow},
+    {L"dies", BuildDies},
 };
 
 }  // namespace

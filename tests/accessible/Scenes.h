@@ -15,18 +15,19 @@ struct Scene {
   std::deque<Node> nodes;  // the first is the object of the window
 };
 
-// Fills scene with what the word asks for, in a window at place (screen pixels: left, top, width,
+// Fills scene as the word says, in a window at place (screen pixels: left, top, width,
 // height); false when there is no such word.
 //
 // fruit         a group with a list of simple elements and a button, all kinds of members
 // tree=N        N items of a tree view, simple elements at the levels 0, 1 and 2
 // objects=N     N items that are objects
 // rows=N        N items of a list view
-// cycle         parents that go round in a circle
+// commas        items of a list view whose names hold a tab, a comma and quotation marks
+// cycle         parents that form a circle
 // endless       every child exists and has siblings
 // claims        two thousand million children that do not exist
 // huge          a name of five million characters
-// codes         members that fail, each with a code of its own
+// codes         members that fail, each with a different code
 // roleless      a role that cannot be read
 // overflow      a right edge beyond 32 bits
 // dies          the process ends in the middle of the third name

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "../ReadItems.h"
 #include "BareAccessible.h"
 #include "Turns.h"
 #include "accessibility/AccessibleListing.h"
@@ -46,8 +47,7 @@ void Expect(const std::wstring& text) {
 
 std::wstring ListTree(const accessible::FixtureProcess& fixture) {
   HWND target = fixture.Window();
-  std::wstring text =
-      MyAccessible::ListTree(target, InFirstItem(fixture), Everything(), Session(target));
+  std::wstring text = TreeAt(target, InFirstItem(fixture), Everything(), Session(target));
   Expect(text);
   return text;
 }
@@ -63,9 +63,9 @@ std::vector<Pair> MeasureTextAtPoint() {
   return Compare(
       kRounds,
       [&] {
-        std::wstring method;
-        Expect(extract::MyGetControlTextFromPoint(point.x, point.y, {}, false, method, browser,
-                                                  [](const std::wstring&) {}));
+        const extract::TextReading reading = extract::MyGetControlTextFromPoint(
+            point.x, point.y, {}, false, browser, [](const std::wstring&) {});
+        Expect(reading.text);
       },
       [point] { AskTextAtPoint(point); });
 }
@@ -92,8 +92,7 @@ std::vector<Pair> MeasureChildListing(int children) {
   HWND target = fixture.Window();
   const settings::Settings settings = Everything();
   return Compare(
-      kListingRounds,
-      [&] { Expect(MyAccessible::ListChildren(target, settings, Session(target))); },
+      kListingRounds, [&] { Expect(ChildrenOf(target, settings, Session(target))); },
       [target] { AskChildListing(target); });
 }
 

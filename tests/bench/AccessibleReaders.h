@@ -7,7 +7,7 @@
 
 namespace bench {
 
-// The text at a point over an object of another process, against the calls that cannot be left out.
+// The text at a point over an object of another process, against the necessary calls alone.
 std::vector<Pair> MeasureTextAtPoint();
 
 // The report on such an object, with its ancestors and children.

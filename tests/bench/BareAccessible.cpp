@@ -16,7 +16,7 @@ namespace {
 
 using ObjectPtr = Microsoft::WRL::ComPtr<IAccessible>;
 
-// An object and a child in it, asked for members whose answers are thrown away.
+// An object and a child of it; the answers of its members are ignored.
 class BareObject {
  public:
   BareObject(IAccessible* object, const VARIANT& child) : object_(object), child_(child) {}
@@ -92,8 +92,8 @@ void ForEachChild(IAccessible* object, const ChildVisit& visit) {
   }
 }
 
-// The members that a row about an ancestor or a child shows; the role's number and its word are
-// two questions.
+// The members that a row about an ancestor or a child shows; the role's number and its word are two
+// calls.
 void AskRow(const BareObject& object) {
   object.Name();
   object.Role();

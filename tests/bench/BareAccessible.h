@@ -1,5 +1,4 @@
-// The calls into accessible objects that readings cannot do without, with nothing around them; the
-// answers are thrown away.
+// The necessary calls of readings into accessible objects, alone; the answers are ignored.
 #pragma once
 
 #include <windows.h>

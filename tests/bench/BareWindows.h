@@ -1,4 +1,4 @@
-// What readings ask the system about windows, with nothing around it; the answers are thrown away.
+// The system calls of readings about windows, alone; the answers are ignored.
 #pragma once
 
 #include <windows.h>

@@ -1,8 +1,8 @@
-// Measures the program against yardsticks that do only what cannot be left out.
+// Measures the program against yardsticks that do only what is necessary.
 //
-//   bench.exe [WORD]    all rows, or those whose name holds WORD
+//   bench.exe [WORD]    all rows, or those whose name contains WORD
 //
-// Prints one row a line, fields separated by TABs: name, ratio to the yardstick, limit of the
+// Prints one row per line, fields separated by TABs: name, ratio to the yardstick, limit of the
 // ratio, median of the program's figures in milliseconds, spread (the distance between the
 // quartiles of the ratios). A row that exceeds its limit is measured again, twice at most. The
 // exit code is 1 when a row still exceeds its limit, 2 when one cannot be measured.

@@ -10,7 +10,7 @@
 #include "Turns.h"
 #include "accessible/FixtureProcess.h"
 #include "capture/ReportComposer.h"
-#include "capture/SystemReaders.h"
+#include "report/SystemReaders.h"
 #include "unit/FakeCapture.h"
 
 namespace bench {
@@ -42,8 +42,8 @@ std::vector<Pair> MeasureReport() {
   capture.state.CapturePoint = point;
   capture.state.CaptureRunning = true;
   capture.system.onPump = PumpMessages;
-  const std::unique_ptr<capture::ReportReaders> readers =
-      capture::MakeSystemReaders(capture.settings);
+  const std::unique_ptr<report::ReportReaders> readers =
+      report::MakeSystemReaders(capture.settings);
   return Compare(
       kRounds,
       [&] {

@@ -7,7 +7,7 @@
 
 namespace bench {
 
-// A report on an object of another program, against the questions to the system that it asks.
+// A report on an object of another program, against the system calls that it makes.
 std::vector<Pair> MeasureReport();
 
 }  // namespace bench

@@ -34,7 +34,7 @@ double MillisecondsSince(Clock::time_point start) {
   return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-// Two Notepads beside each other, each with a text of its own.
+// Two Notepads beside each other, with different texts.
 class Notepads {
  public:
   Notepads() {
@@ -70,7 +70,7 @@ class BareCapture {
 
 Pair OneStop(int moment, POINT point, const std::string& text, const gui::Control& pane,
              const BareCapture& bare) {
-  // A hand does not wait for the pane before it moves on: the stops fall anywhere in a pass.
+  // Users do not wait for the pane before they move: the stops happen anywhere in a pass.
   gui::Last(gui::Milliseconds{40 + moment % 17});
   gui::pointer::MoveTo(point);
   const auto start = Clock::now();

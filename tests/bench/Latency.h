@@ -1,4 +1,4 @@
-// How soon the text under the pointer stands in the pane once the pointer rests.
+// How soon the pane shows the text under the pointer after the pointer stops.
 #pragma once
 
 #include <vector>
@@ -7,9 +7,9 @@
 
 namespace bench {
 
-// The pointer goes to and fro between two Notepads while the program and a bare loop, which makes
-// the same calls and nothing else, both capture. Each pair is one stop of the pointer: from its
-// arrival to the text in the program's pane, and in the bare loop's.
+// The pointer moves between two Notepads while the program and a bare loop, which makes the same
+// calls and nothing else, both capture. Each pair is one stop of the pointer: from its arrival to
+// the text in the program's pane, and in the bare loop's.
 std::vector<Pair> MeasureLatency();
 
 // What the program takes beyond the 50 ms for which the pointer has to rest, as a part of 40 ms:

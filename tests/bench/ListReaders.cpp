@@ -12,6 +12,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "../ReadItems.h"
 #include "ListFixture.h"
 #include "Turns.h"
 #include "driver/Owners.h"
@@ -117,16 +118,15 @@ BareStep BareTabs(HWND control) {
   };
 }
 
-std::wstring ReadListView(HWND hwnd, const platform::ReadSession& session, std::wstring& method,
-                          const extract::ControlAccess& access) {
+extract::Method ReadListView(HWND hwnd, const platform::ReadSession& session,
+                             platform::ItemSink& sink, const extract::ControlAccess& access) {
   return extract::GetListViewItem(
-      hwnd, session, method, 0, [](HWND) { return std::wstring(); }, access);
+      hwnd, session, sink, 0, [](platform::ItemSink&) {}, access);
 }
 
 struct Contest {
   std::string name;
-  std::wstring (*read)(HWND, const platform::ReadSession&, std::wstring&,
-                       const extract::ControlAccess&);
+  ItemReader read;
   BareStep (*bare)(HWND);
 };
 
@@ -170,7 +170,8 @@ std::vector<Pair> Compare(const Contest& contest, HWND control) {
   const platform::ReadSession session{target, [](const std::wstring&) {}, takeTurns,
                                       [] { return true; }};
   std::wstring method;
-  const std::wstring text = contest.read(control, session, method, extract::SystemAccess());
+  const std::wstring text =
+      ReadText(contest.read, control, session, method, extract::SystemAccess());
   if (text.empty() || chunks.empty()) {
     throw std::runtime_error("nothing was read from the " + contest.name);
   }

@@ -1,4 +1,4 @@
-// What the item readers cost beyond the system calls that they cannot do without.
+// What the item readers cost beyond their necessary system calls.
 #pragma once
 
 #include <string>
@@ -9,12 +9,12 @@
 namespace bench {
 
 // All items of such a control (a kind of tests/cross/fixture) in another process, against a bare
-// loop that makes the same system calls and keeps no text. Both go on in turns, item by item, so
-// that whatever else the machine does falls on both; each pair is the time for 100 items.
+// loop that makes the same system calls and keeps no text. Both run in turns, item by item, so that
+// other load of the machine affects both; each pair is the time for 100 items.
 std::vector<Pair> MeasureItems(const std::string& kind, int items);
 
-// A row of the whole list view against one of its first tenth; what the bare loop took longer for
-// it is taken off. If ten times the rows took 10.5 times as long, this would be 1.05.
+// A row of the whole list view against one of its first tenth; the extra time of the bare loop is
+// subtracted. If ten times the rows took 10.5 times as long, this would be 1.05.
 std::vector<Pair> MeasureRowGrowth(int rows);
 
 }  // namespace bench

@@ -14,10 +14,10 @@
 #include "Turns.h"
 #include "browser/BrowserProcess.h"
 #include "browser/InterfaceDescription.h"
-#include "browser/OpenPage.h"
-#include "capture/ElementTable.h"
+#include "browser/PageReading.h"
 #include "driver/Pointer.h"
 #include "platform/ComOwners.h"
+#include "report/ElementTable.h"
 
 namespace bench {
 namespace {
@@ -27,18 +27,19 @@ using platform::UniqueBstr;
 
 constexpr int kRounds = 7;
 constexpr int kTextLength = 50;
-constexpr int kCallsAside = 2;  // of other windows that ask the page meanwhile
+constexpr int kCallsAside = 2;  // of other windows that call the page meanwhile
 
 void ReadPage(HWND window, POINT point, const MyInternetexplore::BrowserAccess& access) {
   HWND target = window;
   const platform::ReadSession session{target, [](const std::wstring&) {}, PumpMessages,
                                       [] { return true; }};
-  const auto page = MyInternetexplore::OpenPage(
-      window, point, {0, capture::CharactersNeeded(kTextLength)}, access);
+  bool displayed = false;
+  const auto page = MyInternetexplore::ReadPage(
+      {window, point, 0, report::CharactersNeeded(kTextLength), [](const std::wstring&) {},
+       [&](const MyInternetexplore::PageTexts& texts) { displayed = !texts.displayed.empty(); }},
+      access, session);
   if (!page) throw std::runtime_error("the browser fixture gives no page");
-  const MyInternetexplore::PageTexts texts = page->Texts();
-  const std::wstring report = capture::ElementReport(page->Facts(session), kTextLength);
-  if (texts.displayed.empty() || report.size() < 1000) {
+  if (!displayed || report::ElementReport(*page, kTextLength).size() < 1000) {
     throw std::runtime_error("little was read from the browser fixture");
   }
 }
@@ -143,7 +144,7 @@ int CallsOf(const html::BrowserProcess& process, const std::function<void()>& wo
 
 std::vector<Pair> MeasureElementChain(int elements) {
   const Apartment apartment;
-  // For both sides: without it, loading it would be what is measured.
+  // For both sides, because otherwise its loading would be measured.
   MyInternetexplore::InterfaceDescription description;
   description.Hold();
   const html::BrowserProcess process("deadline=900 chain=" + std::to_string(elements));
@@ -154,7 +155,7 @@ std::vector<Pair> MeasureElementChain(int elements) {
   const MyInternetexplore::BrowserAccess access{MyInternetexplore::SystemBrowserCalls(), messages};
   const auto ours = [&] { ReadPage(window, point, access); };
   const auto bare = [&] { AskPage(window, point); };
-  // A yardstick that asks for more or for less would be none.
+  // The yardstick must make the same calls.
   if (std::abs(CallsOf(process, ours) - CallsOf(process, bare)) > kCallsAside) {
     throw std::runtime_error("the element chain and its yardstick make different calls");
   }

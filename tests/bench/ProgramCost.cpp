@@ -53,7 +53,7 @@ std::vector<Pair> MeasureStartUp() {
   return pairs;
 }
 
-// Both run side by side, with the pointer at rest.
+// Both run at the same time, with the pointer at rest.
 std::vector<Pair> MeasureProcessorTime(bool capturing) {
   gui::pointer::Park();
   const std::filesystem::path yardstick = Yardstick(L"bench_bare_loop.exe");

@@ -10,9 +10,9 @@
 #include "BareWindows.h"
 #include "Yardstick.h"
 #include "capture/OutputDelivery.h"
-#include "capture/WindowInformation.h"
 #include "driver/ChildProcess.h"
 #include "driver/Paths.h"
+#include "report/WindowInformation.h"
 
 namespace bench {
 namespace {
@@ -31,7 +31,7 @@ double Milliseconds(Work&& work) {
   return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-// A process with a window of so many children.
+// A process with a window that has that many children.
 class WindowTree {
  public:
   explicit WindowTree(int children)
@@ -54,8 +54,8 @@ class WindowTree {
 
 double InformationTime(HWND root) {
   return Milliseconds([root] {
-    const auto information = capture::ReadWindowInformation(capture::ReadWindowFacts(root));
-    if (capture::WindowInformationText(information, L"dec").size() < 1000) {
+    const auto information = report::ReadWindowInformation(report::ReadWindowFacts(root));
+    if (report::WindowInformationText(information, L"dec").size() < 1000) {
       throw std::runtime_error("no information about the window tree");
     }
   });
@@ -65,7 +65,7 @@ double BareTime(HWND root) {
   return Milliseconds([root] { AskInformation(root); });
 }
 
-// Takes texts and shows nothing.
+// Accepts texts and shows nothing.
 class BlindView : public capture::CaptureView {
  public:
   std::wstring Text(capture::ViewText) const override { return {}; }
@@ -87,8 +87,8 @@ class BlindView : public capture::CaptureView {
 double DeliveryTime(const std::wstring& text, const std::wstring& folder) {
   BlindView view;
   return Milliseconds([&] {
-    capture::PutPaneText(view, capture::ViewText::TopPane, text, 1, L"text.txt",
-                         [&folder] { return folder; });
+    capture::PaneDelivery delivery(view, [&folder] { return folder; });
+    delivery.PutPaneText(capture::ViewText::TopPane, text, 1, L"text.txt");
   });
 }
 

@@ -1,4 +1,4 @@
-// What a report costs beyond the system calls that it cannot do without.
+// What a report costs beyond its necessary system calls.
 #pragma once
 
 #include <vector>

@@ -7,7 +7,7 @@
 namespace bench {
 
 // The program and its yardstick, measured at the same time or one right after the other, so that
-// whatever else the machine does falls on both.
+// other load of the machine affects both.
 struct Pair {
   double program;
   double yardstick;

@@ -8,7 +8,7 @@
 
 namespace bench {
 
-// Makes this thread one that COM objects of other programs can be used on, while it lives.
+// While it exists, this thread can use COM objects of other programs.
 class Apartment {
  public:
   Apartment();
@@ -17,11 +17,11 @@ class Apartment {
   Apartment& operator=(const Apartment&) = delete;
 };
 
-// Works off the messages of this thread, as the program does between two items.
+// Dispatches the messages of this thread, as the program does between two items.
 void PumpMessages();
 
-// Both in milliseconds, one after the other, so that whatever else the machine does falls on both;
-// once before that for nothing.
+// Both in milliseconds, one after the other, so that other load of the machine affects both; after
+// one run that is not counted.
 std::vector<Pair> Compare(int rounds, const std::function<void()>& ours,
                           const std::function<void()>& bare);
 

@@ -1,4 +1,4 @@
-// The programs that stand beside bench.exe: the yardsticks and their targets.
+// The programs in bench.exe's folder: the yardsticks and their targets.
 #pragma once
 
 #include <filesystem>

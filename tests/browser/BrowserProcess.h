@@ -1,4 +1,4 @@
-// The browser fixture, run in a process of its own.
+// The browser fixture, run in its own process.
 #pragma once
 
 #include <windows.h>
@@ -13,8 +13,8 @@ namespace html {
 
 class BrowserProcess {
  public:
-  // words: of its command line, see FixtureMain.cpp. Waits until its windows stand. Throws
-  // std::runtime_error when that does not come about.
+  // words: of its command line, see FixtureMain.cpp. Waits until its windows exist. Throws
+  // std::runtime_error when that does not happen.
   explicit BrowserProcess(std::string_view words);
 
   // "main", "document", "combo" or "list". Throws std::out_of_range.
@@ -25,7 +25,7 @@ class BrowserProcess {
   const gui::ChildProcess& Process() const { return process_.Process(); }
 
   // What others hold of the page's objects; how many members were called; how often the document
-  // was asked for. -1 when the fixture does not answer.
+  // was requested. -1 when the fixture does not answer.
   int References() const;
   int Calls() const;
   int Requests() const;

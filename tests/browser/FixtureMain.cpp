@@ -1,10 +1,10 @@
-// A target for tests: a browser's window whose document is a page of our own.
+// A target for tests: a browser's window whose document is a page for tests.
 //
 //   browser_fixture.exe [parent=PID] [deadline=SECONDS] [title=CAPTION]
 //                       [place=X,Y,WIDTH,HEIGHT] SCENE[=VALUE]
 //
-// The scenes stand in Scenes.h, the other words in the fixture's CommandLine.h. The document's
-// window fills a top-level window without a frame. Once the windows stand, one line "name=handle"
+// The scenes are in Scenes.h, the other words in the fixture's CommandLine.h. The document's
+// window fills a top-level window without a frame. Once the windows exist, one line "name=handle"
 // (decimal) for "main", "document" and, where the scene has them, "combo" and "list" goes to the
 // standard output, then the line "ready". The program ends when its window is closed, when
 // its parent ends and at its deadline. Exit codes: 0 closed, 2 unknown scene, 3 parent gone or
@@ -35,7 +35,7 @@ constexpr DWORD kLate = 10'000;
 html::Scene scene;
 LRESULT requests = 0;
 
-// Offers a document as nothing but that, and not by number or name.
+// Offers only the document's interface, and no access by number or name.
 class BareDocument : public html::RefusedDocument {
  public:
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
@@ -70,7 +70,7 @@ class BareDocument : public html::RefusedDocument {
 };
 BareDocument bareDocument;
 
-// Lets everything that others send meanwhile be answered.
+// Answers everything that other programs send meanwhile.
 void BeLateButAwake() {
   const ULONGLONG end = GetTickCount64() + kLate;
   for (ULONGLONG now = GetTickCount64(); now < end; now = GetTickCount64()) {
@@ -195,6 +195,6 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) {
   fixture::Say("ready");
 
   const int code = fixture::RunUntilTheEnd(asked.parentProcess, asked.deadlineSeconds);
-  // The other side may hold objects still.
+  // The other side may still hold objects.
   ExitProcess(static_cast<UINT>(code));
 }

@@ -1,4 +1,4 @@
-// The fixture answers from another process the way browsers do.
+// The fixture answers from another process as browsers do.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -58,7 +58,7 @@ class FixtureTest : public testing::Test {
   }
 };
 
-TEST_F(FixtureTest, TheDocumentIsHadByAnyIdentifier) {
+TEST_F(FixtureTest, AnyIdentifierGivesTheDocument) {
   const BrowserProcess browser("place=40,40,400,300 fruit");
   for (const IID& id : {IID_IHTMLDocument2, IID_NULL}) {
     const ComPtr<IHTMLDocument2> document = Document(Ask(browser), id);
@@ -116,7 +116,7 @@ TEST_F(FixtureTest, AnswersMayBeNoObjects) {
   EXPECT_NE(Document(Ask(second), IID_IHTMLDocument2), nullptr);
 }
 
-TEST_F(FixtureTest, HungOrSilentThereIsNoAnswer) {
+TEST_F(FixtureTest, AHungOrSilentProgramDoesNotAnswer) {
   const BrowserProcess hung("place=40,40,400,300 hung");
   EXPECT_EQ(Ask(hung, 300), 0);
   EXPECT_EQ(hung.Requests(), -1);

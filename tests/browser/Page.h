@@ -1,5 +1,5 @@
-// A browser's page of our own, for tests: documents, elements and windows that say what they are
-// told to say, in process or behind a window of another process.
+// A browser's page for tests: documents, elements and windows that answer what a test sets, in this
+// process or in another one.
 #pragma once
 
 #include <windows.h>
@@ -55,8 +55,8 @@ class Element : public ScriptObject<Element, RefusedElement, RefusedElement2> {
   // All references to this and to its rectangle.
   LONG AllReferences() const { return References() + rectangle_.References(); }
   bool IsBody() const { return data_.tag == L"BODY" || data_.tag == L"FRAMESET"; }
-  // The innermost element there, this one or one inside; null when there is none. What comes later
-  // in the page lies on top.
+  // The innermost element there, this one or one inside; null when there is none. Later elements
+  // are on top.
   Element* At(LONG x, LONG y);
 
   Document* document;
@@ -141,8 +141,8 @@ class Page {
   Watch watch;
 
   Document& Top() { return documents_.front(); }
-  // By label, as the calls are noted: "DIV#menu" (tag and id), "IFRAME@ad" (tag and name), "BODY".
-  // The first in the page; throws std::out_of_range when there is none.
+  // By label, as the calls are recorded: "DIV#menu" (tag and id), "IFRAME@ad" (tag and name),
+  // "BODY". The first in the page; throws std::out_of_range when there is none.
   Element& At(std::string_view label);
   Window& WindowNamed(std::string_view name);
 

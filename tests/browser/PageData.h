@@ -25,7 +25,7 @@ struct ElementData {
   std::wstring text{};    // innerText
   std::wstring markup{};  // innerHTML
   RECT place{};           // left, top, right, bottom in pixels of its document
-  bool orphan = false;    // tells no parent
+  bool orphan = false;    // has no parentElement
   std::vector<ElementData> children{};
   // What a frame shows: one document; none for what is no frame.
   std::vector<DocumentData> frame{};

@@ -5,9 +5,9 @@
 #include <chrono>
 
 #include "capture/ReportComposer.h"
-#include "capture/SystemReaders.h"
 #include "driver/Pointer.h"
 #include "driver/WaitFor.h"
+#include "report/SystemReaders.h"
 
 namespace html {
 
@@ -18,7 +18,7 @@ PageReport::PageReport()
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
   settings_.htmlTagTextLength = 50;
   settings_.accValueText = L"edit,DirectUIHWND";
-  readers_ = capture::MakeSystemReaders(settings_);
+  readers_ = report::MakeSystemReaders(settings_);
 }
 
 PageReport::~PageReport() {

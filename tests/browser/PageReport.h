@@ -1,5 +1,5 @@
-// Reports on pages of another process, made with the real readers, their texts kept instead of
-// shown.
+// Reports on pages of another process, made with the real readers; their texts are stored instead
+// of shown.
 #pragma once
 
 #include <windows.h>
@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "BrowserProcess.h"
-#include "capture/ReportReaders.h"
 #include "platform/ErrorReport.h"
+#include "report/ReportReaders.h"
 #include "unit/FakeCapture.h"
 
 namespace html {
@@ -32,8 +32,8 @@ class PageReport : public testing::Test {
   PageReport();
   ~PageReport() override;
 
-  // Moves the pointer to that point of the page, and reads what lies there or, with a shift, that
-  // far from there. The page's objects are all released afterwards.
+  // Moves the pointer to that point of the page, and reads what is there or, with a shift, that far
+  // from there. The page's objects are all released afterwards.
   void ReportAt(const BrowserProcess& browser, POINT point, POINT shift = {0, 0});
 
   const std::wstring& Shown(capture::ViewText part) { return capture_.view.texts[part]; }
@@ -50,10 +50,10 @@ class PageReport : public testing::Test {
 
  private:
   platform::MessageBoxFunction before_;
-  std::unique_ptr<capture::ReportReaders> readers_;
+  std::unique_ptr<report::ReportReaders> readers_;
 };
 
-// Waits until nobody holds an object of the page any more.
+// Waits until no object of the page is held any more.
 testing::AssertionResult IsReleased(const BrowserProcess& browser);
 
 }  // namespace html

@@ -1,4 +1,4 @@
-// The page of our own is what the other tests measure by.
+// The page that the other tests rely on.
 #include <windows.h>
 
 #include <gmock/gmock.h>
@@ -136,7 +136,7 @@ TEST_F(PageTest, RectanglesAreThoseOfThePage) {
   EXPECT_EQ(page_.References(), 1);
 }
 
-TEST_F(PageTest, CallsAreNotedAndFailAsAsked) {
+TEST_F(PageTest, CallsAreRecordedAndFailAsSet) {
   page_.watch.failures = {{".tagName", E_FAIL},
                           {"window inner.document", E_ACCESSDENIED},
                           {"document http://host/top.elementFromPoint 1,2", E_UNEXPECTED}};
@@ -152,7 +152,7 @@ TEST_F(PageTest, CallsAreNotedAndFailAsAsked) {
   EXPECT_THROW(page_.At("P#none"), std::out_of_range);
 }
 
-TEST_F(PageTest, WhatIsNotNeededIsRefused) {
+TEST_F(PageTest, UnusedMembersAreRefused) {
   EXPECT_EQ(page_.At("BODY").click(), E_NOTIMPL);
   BSTR text = nullptr;
   EXPECT_EQ(page_.Top().get_cookie(&text), E_NOTIMPL);

@@ -1,5 +1,5 @@
-// The pages that the fixture shows. Tests compare with texts written by hand, so what a page says
-// stands in one place and in full.
+// The pages that the fixture shows. Tests compare with texts written by hand, so every page is
+// complete in one place.
 #pragma once
 
 #include "PageData.h"
@@ -9,8 +9,8 @@ namespace html {
 // A page without frames: a heading, a list in its box, an input, a link; 400 x 300 pixels.
 DocumentData FruitPage();
 
-// One element of every kind in rows of 20 pixels, as Row() tells: inputs of every type, elements
-// with and without id, name, type, value and text, names that fill a column and more.
+// One element of every kind in rows of 20 pixels, see Row(): inputs of every type, elements with
+// and without id, name, type, value and text, names that fill a column and more.
 DocumentData KindsPage();
 
 // Texts around a limit of 50 characters, one a row of 20 pixels: 50, 52 and 53 characters; 53 of
@@ -40,7 +40,7 @@ DocumentData NestedFramesPage(int frames);
 // A paragraph with a text and markup of that many characters, and a body with the same.
 DocumentData HugePage(std::size_t characters);
 
-// A paragraph that tells no parent.
+// A paragraph without a parentElement.
 DocumentData OrphanPage();
 
 // A row of KindsPage and LengthsPage: its top and bottom in the page.

@@ -1,4 +1,4 @@
-// A page as a picture, so that what stands on the screen can be compared with what was read.
+// A page as a picture, so that the screen can be compared with what was read.
 #pragma once
 
 #include <windows.h>

@@ -1,5 +1,5 @@
-// Interfaces of HTML documents all of whose members refuse, with E_NOTIMPL. The objects of our own
-// override what a reader of pages may ask for.
+// Interfaces of HTML documents whose members all return E_NOTIMPL. The test objects override what a
+// reader of pages may use.
 #pragma once
 
 #include <windows.h>

@@ -1,4 +1,4 @@
-// Reports on pages that behave, compared with texts written by hand.
+// Reports on well-behaved pages, compared with texts written by hand.
 #include <windows.h>
 
 #include <gmock/gmock.h>
@@ -49,7 +49,7 @@ TEST_F(ReportsTest, AListItem) {
   EXPECT_THAT(boxes_, IsEmpty());
 }
 
-// Of the texts that a report can give, and how they were got.
+// The texts of a report, and their methods.
 TEST_F(ReportsTest, ValuesComeBeforeTexts) {
   const BrowserProcess browser(std::string(kPlace) + "fruit");
   const auto methods = [&] { return capture_.view.writes[ViewText::lblTextKind]; };
@@ -246,13 +246,13 @@ TEST_F(ReportsTest, FramesThatAreScrolledOutOfView) {
   EXPECT_EQ(Table(), SCROLLED);
 }
 
-// With a shift the frame is that of the point that is read, the element in it that of the pointer.
+// With a shift the read point selects the frame, and the pointer the element in it.
 TEST_F(ReportsTest, WithAShiftTwoPointsCount) {
   const BrowserProcess browser(std::string(kPlace) + "scrolled");
   ReportAt(browser, {390, 290}, {-290, -210});
   EXPECT_EQ(Table(), SCROLLED);
   EXPECT_EQ(Shown(ViewText::txtWin1), L"first/second/third　BODY");
-  // The point that is read lies beside the frames; from there the pointer leads into them.
+  // The read point is outside the frames, the pointer inside.
   ReportAt(browser, {100, 80}, {290, 210});
   EXPECT_EQ(Table(), SCROLLED L"P                   deep                    奥\r\n");
   EXPECT_EQ(Shown(ViewText::txtWin1), L"first/second/third　P");
@@ -291,12 +291,12 @@ TEST_F(ReportsTest, SilverlightIsReadAsAPage) {
   const BrowserProcess browser(std::string(kPlace) + "silverlight");
   ReportAt(browser, kItem);
   EXPECT_EQ(Table(), FRUIT_HEAD FRUIT_LIST L"LI                              0           蜜柑\r\n");
-  // Its window is none of the browser's own, so the text at the point is not the element's.
+  // Its window is not one of the browser's, so the text at the point is not the element's.
   EXPECT_EQ(TextAtPoint(), L"");
 }
 
-// The document is asked for once for the text at the point and once for the table.
-TEST_F(ReportsTest, DocumentsAreHadOnOneOfTwoRequests) {
+// The document is requested once for the text at the point and once for the table.
+TEST_F(ReportsTest, ADocumentIsFoundByOneOfTwoRequests) {
   const BrowserProcess plain(std::string(kPlace) + "fruit");
   ReportAt(plain, kItem);
   EXPECT_EQ(plain.Requests(), 2);
@@ -311,7 +311,7 @@ TEST_F(ReportsTest, DocumentsAreHadOnOneOfTwoRequests) {
   }
 }
 
-// Who holds the description beside the one that asks.
+// The number of other holders of the description.
 ULONG HoldersOfDescription() {
   constexpr GUID kLibrary = {
       0x3050F1C5, 0x98B5, 0x11CF, {0xBB, 0x82, 0x00, 0xAA, 0x00, 0xBD, 0xCE, 0x0B}};

@@ -10,13 +10,13 @@
 
 namespace html {
 
-// How the document's window answers the message that asks for its document.
+// How the document's window answers the request for its document.
 enum class Answering {
   kDocument,
   kHung,    // the whole program sleeps for ten seconds, each time
   kSilent,  // ten seconds late, each time; meanwhile everything else is answered
   kZero,    // with 0
-  kJunk,    // with numbers that stand for no object
+  kJunk,    // with numbers that are no objects
   kSecond,  // with such a number first, with the document from then on
   kBare,    // with an object that offers only IUnknown and IHTMLDocument2
 };
@@ -28,16 +28,16 @@ struct Scene {
   std::unique_ptr<Page> page;
 };
 
-// Fills scene with what the word asks for; false when there is no such word.
+// Fills scene as the word says; false when there is no such word.
 //
 // fruit, kinds, lengths, frameset, unnamed, scrolled, chain=N, orphan     pages of Pages.h
 // lists           the fruit, and on it windows of the classes of the page's own lists:
 //                 "…_TridentCmboBx" at 220,210 and "…_TridentLstBox" at 220,240
-// silverlight     the fruit in a window whose class says so
+// silverlight     the fruit in a window of that class
 // hung, silent, zero, junk, second, bare         the fruit, answered as in Answering
 // foreign         an inline frame whose document is refused
 // refused         a frame set all of whose documents are refused
-// circle          parents that go round in a circle
+// circle          parents that form a circle
 // selfframe       a frame that holds the document that it is in
 // deep=N          frames nested N times
 // huge            texts of five million characters

@@ -1,4 +1,4 @@
-// What all objects of a page share: counted references, noted calls, and members by name.
+// What all objects of a page share: counted references, recorded calls, and members by name.
 #pragma once
 
 #include <windows.h>
@@ -14,17 +14,17 @@
 
 namespace html {
 
-// What is noted of a page, and what a test wants to go wrong.
+// What is recorded of a page, and what a test wants to fail.
 struct Watch {
-  // Every call of a member, as "OBJECT.MEMBER" and what it was asked for: "DIV#menu.tagName",
-  // "IFRAME@ad.getAttribute value", "IFRAME@ad.rectangle.left", "window left.document",
-  // "document http://host/.elementFromPoint 10,20".
+  // Every call of a member, as "OBJECT.MEMBER" and its argument: "DIV#menu.tagName",
+  // "IFRAME@ad.getAttribute value", "IFRAME@ad.rectangle.left", "window left.document", "document
+  // http://host/.elementFromPoint 10,20".
   std::vector<std::string> calls{};
   std::size_t callCount = 0;
   bool keepsCalls = true;
 
-  // What calls fail with: by such a call, with or without what it was asked for; with the object
-  // left out, for all objects (".getAttribute value"); or "", for every call.
+  // What calls fail with: by such a call, with or without its argument; with the object left out,
+  // for all objects (".getAttribute value"); or "", for every call.
   std::map<std::string, HRESULT> failures{};
   std::function<void(const std::string& call)> onCall{};
 };
@@ -44,7 +44,7 @@ class Counted {
   LONG References() const { return references_; }
 
  protected:
-  // Notes the call; what the member shall fail with, or S_OK.
+  // Records the call; returns what the member should fail with, or S_OK.
   HRESULT Enter(const std::string& member, const std::string& detail = {});
 
   LONG references_ = 0;
@@ -54,12 +54,12 @@ class Counted {
   const std::string label_;
 };
 
-// An answer as a VARIANT, which takes the text or the reference over.
+// An answer as a VARIANT, which then owns the text or the reference.
 void Give(BSTR text, VARIANT* answer);
 void Give(LONG number, VARIANT* answer);
 void Give(IDispatch* object, VARIANT* answer);
 
-// Texts that are empty are given as null, the way browsers do.
+// Empty texts are returned as null, as browsers do.
 BSTR NewText(const std::wstring& text);
 
 // Object offers Interfaces, the first of them as its IDispatch. It has

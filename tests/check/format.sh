@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Every source is laid out as .clang-format says; scripts/format.sh does it.
+# Every source is formatted with .clang-format; scripts/format.sh does it.
 set -euo pipefail
 
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."

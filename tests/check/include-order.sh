@@ -13,7 +13,7 @@ cd "$sources"
 circle_input=$(mktemp)
 trap 'rm -f "$circle_input"' EXIT
 
-# Quoted includes as lines "FILE INCLUDED"; a path is written from src/, whichever file it stands in.
+# Quoted includes as lines "FILE INCLUDED"; a path is written from src/, in whichever file it is.
 includes() {
   grep -rE '^[[:space:]]*#[[:space:]]*include[[:space:]]*"' --include='*.h' --include='*.cpp' \
     --include='*.rc' . | sed -E 's|^\./([^:]+):[^"]*"([^"]+)".*|\1 \2|'

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Spoils a package and lets package.sh look at it, which has to complain.
+# Damages a package and runs package.sh on it, which must fail.
 #
 #   package-trial.sh WAY ZIP PROGRAM SOURCE_FOLDER
 #

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The zip that is handed out holds one folder with the program, its help and a readme for Notepad.
+# The zip for users contains one folder with the program, its help and a readme for Notepad.
 #
 #   package.sh ZIP PROGRAM SOURCE_FOLDER
 set -euo pipefail
@@ -29,7 +29,7 @@ LC_ALL=C grep -q '[^ -~]' <<<"$held" && complain "holds a name that is not ASCII
 size=$(stat -c %s "$zip")
 ((size < largest)) || complain "$size bytes, must be less than $largest"
 
-# Names that lead out of the folder were complained about; they are not to be written.
+# Names that lead out of the folder were reported above; they must not be written.
 [[ $status == 0 ]] || exit "$status"
 (cd "$unpacked" && cmake -E tar xf "$zip")
 
@@ -46,7 +46,7 @@ lines=$(grep -c '' "$readme")
   complain "Readme.txt has lines that do not end with CR LF"
 grep -q '@' "$readme" && complain "Readme.txt has an unfilled place"
 
-# What the program writes is named there as in the sources.
+# The files that the program writes have the same names there as in the sources.
 while read -r name; do
   grep -qF "$name" "$readme" || complain "Readme.txt does not name $name"
 done < <(grep -hoE '(文字数オーバー[^"]*|Conf)\.txt' "$source"/src/capture/OutputDelivery.h \

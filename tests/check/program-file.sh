@@ -17,7 +17,7 @@ complain() {
   status=1
 }
 
-# Byte 0x3C holds the offset of "PE\0\0", after which the machine stands.
+# Byte 0x3C holds the offset of "PE\0\0", which the machine follows.
 header=$(od -An -tu4 -j60 -N4 "$program" | tr -d ' ')
 machine=$(od -An -tx2 -j$((header + 4)) -N2 "$program" | tr -d ' ')
 [[ $machine == "$machine_x86" ]] || complain "machine is 0x$machine instead of 0x$machine_x86"

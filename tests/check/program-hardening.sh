@@ -1,6 +1,5 @@
 #!/usr/bin/env bash
-# The built program uses what Windows has against those who exploit a mistake in it, and opens no
-# console window.
+# The built program uses the protections of Windows against exploits, and opens no console window.
 #
 #   program-hardening.sh PROGRAM OBJDUMP
 set -euo pipefail
@@ -18,7 +17,7 @@ complain() {
 headers=$("$objdump" --private-headers "$program")
 
 grep -qw DYNAMIC_BASE <<<"$headers" || complain "its address is not randomised"
-# Without these Windows loads it at its one address, whatever the flag says.
+# Without these Windows loads it at a fixed address, whatever the flag says.
 relocations=$(grep -cw HIGHLOW <<<"$headers" || true)
 ((relocations > 1000)) || complain "has only $relocations relocations"
 grep -qw NX_COMPAT <<<"$headers" || complain "its data can be executed"

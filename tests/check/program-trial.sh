@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Spoils a copy of the program and runs a check on it, which has to complain.
+# Damages a copy of the program and runs a check on it, which must fail.
 #
 #   program-trial.sh WAY PROGRAM CHECK [ARGUMENT…]     runs CHECK COPY ARGUMENT…
 #
@@ -15,7 +15,7 @@ trap 'rm -rf "$folder"' EXIT
 readonly copy=$folder/$(basename "$program")
 cp "$program" "$copy"
 
-# Byte 0x3C holds the offset of the header, in which the subsystem stands at 92 and the flags at 94.
+# Byte 0x3C holds the offset of the header, with the subsystem at 92 and the flags at 94.
 header=$(od -An -tu4 -j60 -N4 "$program" | tr -d ' ')
 write_byte() {
   printf "\\x$2" | dd of="$copy" bs=1 seek="$1" conv=notrunc status=none

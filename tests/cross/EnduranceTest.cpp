@@ -1,4 +1,4 @@
-// Many readings of controls that do not behave leave nothing behind in this process.
+// Many readings of misbehaving controls leave nothing behind in this process.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -31,8 +31,8 @@ int ReadAll(const ListFixture& lying, bool withAnEnd) {
   return readings;
 }
 
-// The text that is far longer than announced is left out here: Wine itself loses its copy of it
-// when it runs into the end of the buffer.
+// Without the text that is far longer than announced: Wine itself leaks its copy of it when it
+// reaches the end of the buffer.
 TEST(EnduranceTest, FiveHundredReadingsLeaveNothingBehind) {
   const ListFixture lying(Bits::k32,
                           "behave=understate listbox=long behave=negative dropdown=many:5 "

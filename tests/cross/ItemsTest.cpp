@@ -28,7 +28,7 @@ class ItemsTest : public testing::TestWithParam<std::tuple<Bits, const char*>> {
   static std::string Kind() { return std::get<1>(GetParam()); }
   static bool IsListView() { return Kind() == "listview" || Kind() == "ownerdata"; }
 
-  // A list view as on a 32-bit system, whatever this one is.
+  // A list view read as on a 32-bit system, on any system.
   static Reading ReadByMessages(
       const ListFixture& fixture,
       const std::function<bool(int)>& stays = [](int) { return true; }) {
@@ -46,7 +46,7 @@ class ItemsTest : public testing::TestWithParam<std::tuple<Bits, const char*>> {
 
 TEST_P(ItemsTest, AllTextsArrive) {
   for (const std::string set : {"japanese", "empty", "odd", "wide", "long", "many:300"}) {
-    // A toolbar writes a text of any length to where it is told; this one is no good neighbour's.
+    // A toolbar writes a text of any length to the given address; this one is too long.
     if (Kind() == "toolbar" && set == "long") continue;
     SCOPED_TRACE(set);
     const Contents contents(gui::ToWide(set));
@@ -76,7 +76,7 @@ TEST_P(ItemsTest, ManyItemsShowTheirNumbersAndYieldOnceEach) {
   EXPECT_EQ(reading.progress.back(), last);
 }
 
-TEST_P(ItemsTest, ThePointersWayOutEndsTheReading) {
+TEST_P(ItemsTest, ReadingEndsWhenThePointerLeaves) {
   const ListFixture fixture(TargetBits(), Kind() + "=many:500");
   const Reading reading = ReadByMessages(fixture, [](int yields) { return yields < 100; });
   EXPECT_EQ(reading.yields, 100);

@@ -1,4 +1,4 @@
-// The program with list-type controls, in a process of its own.
+// The program with list-type controls, in its own process.
 #pragma once
 
 #include <windows.h>
@@ -17,10 +17,10 @@ bool SystemHas64Bits();
 
 class ListFixture {
  public:
-  // Waits until its controls stand. See fixture/Main.cpp for the words.
+  // Waits until its controls exist. See fixture/Main.cpp for the words.
   ListFixture(Bits bits, std::string_view words);
 
-  // The control of that kind. Throws when it was not asked for.
+  // The control of that kind. Throws when it was not requested.
   HWND operator[](const std::string& kind) const { return process_[kind]; }
   gui::ChildProcess& Process() { return process_.Process(); }
 

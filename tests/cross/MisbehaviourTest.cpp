@@ -1,4 +1,4 @@
-// Controls that are slow, hang, lie, vanish or take their process with them.
+// Controls that are slow, hang, answer wrongly, vanish or end their process.
 #include <windows.h>
 
 #include <gmock/gmock.h>
@@ -37,10 +37,10 @@ class MisbehaviourTest : public testing::TestWithParam<const char*> {
 
   static std::wstring Whole(const std::wstring& set) { return ExpectedText(Kind(), Contents(set)); }
 
-  // What was collected before the third text was asked for.
+  // What was collected before the third text was requested.
   static std::wstring BeforeTheThirdText() {
     if (IsListView()) return L"";
-    // A toolbar is asked for the text of its separators, too.
+    // The texts of a toolbar's separators are requested too.
     return ExpectedText(Kind(), Contents(Kind() == "toolbar" ? L"many:1" : L"many:2"));
   }
 };
@@ -86,7 +86,7 @@ TEST_P(MisbehaviourTest, HugeNumbersAreNotBelieved) {
     EXPECT_TRUE(reading.text.ends_with(L"・・・中断・・・"));
     return;
   }
-  // The system asks lists for the lengths itself and then has no room for such texts.
+  // The system requests the lengths from lists itself and then has no memory for such texts.
   const std::wstring read = Kind() == "toolbar" ? Whole(L"many:3") : Whole(L"many:5");
   EXPECT_THAT(reading.text, AnyOf(StartsWith(read), StartsWith(L"\r\n\r\n\r\n\r\n\r\n")));
   EXPECT_EQ(reading.method, Label(Kind()));
@@ -111,7 +111,7 @@ TEST_P(AnnouncedLengthTest, ATextThatIsLongerThanAnnouncedArrivesWhole) {
   EXPECT_EQ(ReadMisbehaving("understate", "long").text, Whole(L"long"));
 }
 
-TEST_P(AnnouncedLengthTest, ATextThatIsFarLongerThanAnnouncedSpoilsNothing) {
+TEST_P(AnnouncedLengthTest, ATextThatIsFarLongerThanAnnouncedDamagesNothing) {
   const Reading reading = ReadMisbehaving("understate", "longer");
   EXPECT_THAT(reading.text, AnyOf(Whole(L"longer"), L"first\r\nlast\r\n"));
 }

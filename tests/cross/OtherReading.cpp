@@ -14,7 +14,7 @@
 namespace cross {
 namespace {
 
-constexpr std::size_t kTextAt = 256;  // the record stands before the text
+constexpr std::size_t kTextAt = 256;  // the record comes before the text
 constexpr std::size_t kTextLength = 8192;
 
 int Ask(HWND control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {

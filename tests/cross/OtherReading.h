@@ -1,5 +1,4 @@
-// Reads the items of a control by other means than the program: wide messages and a block of its
-// own.
+// Reads the items of a control in another way than the program: by wide messages and its own block.
 #pragma once
 
 #include <windows.h>

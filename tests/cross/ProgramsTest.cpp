@@ -1,4 +1,4 @@
-// The list-type controls of programs that nobody here wrote, compared with another reading.
+// The list-type controls of programs that come with Wine, compared with another reading.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -51,7 +51,7 @@ class ProgramsTest : public testing::TestWithParam<ProgramCase> {};
 
 TEST_P(ProgramsTest, EveryControlReadsTheSameInTwoWays) {
   const ProgramCase& one = GetParam();
-  // For the registry editor: where it stands when it starts, and what it shows there.
+  // For the registry editor: the key that it opens at its start, and what it shows there.
   const RegistryKey shown(
       HKEY_CURRENT_USER, L"Software\\Velmora 試験",
       {{L"名前", L"値, \"引用\""}, {L"b", L"c"}, {L"長い", std::wstring(300, L'長')}});

@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "../ReadItems.h"
 #include "accessibility/AccessibleListing.h"
 #include "driver/Text.h"
 #include "extract/ListBoxItems.h"
@@ -15,24 +16,21 @@
 namespace cross {
 namespace {
 
-// A system that knows nothing of 64 bits.
+// A system without 64-bit support.
 class Plain32Bit : public MyMapView::MemoryCalls {
  public:
   FARPROC GetProcAddress(HMODULE, const char*) override { return nullptr; }
 };
 
-using Reader = std::wstring (*)(HWND, const platform::ReadSession&, std::wstring& method,
-                                const extract::ControlAccess&);
-
-std::wstring ReadListView(HWND hwnd, const platform::ReadSession& session, std::wstring& method,
-                          const extract::ControlAccess& access) {
+extract::Method ReadListView(HWND hwnd, const platform::ReadSession& session,
+                             platform::ItemSink& sink, const extract::ControlAccess& access) {
   return extract::GetListViewItem(
-      hwnd, session, method, 0,
-      [&](HWND list) {
+      hwnd, session, sink, 0,
+      [&](platform::ItemSink& children) {
         settings::Settings settings;
         settings.parentChildrenMax = 100;
         settings.accnameMax = 50;
-        return MyAccessible::ListChildren(list, settings, session);
+        MyAccessible::ListChildren(hwnd, settings, session, children);
       },
       access);
 }
@@ -77,7 +75,7 @@ std::wstring TableLines(const Contents& contents) {
 
 struct Kind {
   std::string_view name;
-  Reader read;
+  ItemReader read;
   std::wstring (*expected)(const Contents& contents);
   std::wstring_view label;
 };
@@ -115,7 +113,7 @@ Reading Read(const std::string& kind, HWND control, const Circumstances& circums
   const extract::ControlAccess access{
       extract::SystemAccess().messages,
       circumstances.as32BitSystem ? plain : MyMapView::SystemMemoryCalls()};
-  reading.text = KindOf(kind).read(control, session, reading.method, access);
+  reading.text = ReadText(KindOf(kind).read, control, session, reading.method, access);
   return reading;
 }
 

@@ -18,9 +18,10 @@ struct Reading {
   int yields = 0;
 };
 
-// What happens to a reading from outside.
+// What a test does to a reading.
 struct Circumstances {
-  // Called at every yield with the number of yields so far; false: the pointer is elsewhere.
+  // Called at every yield with the number of yields so far; false: the pointer is over another
+  // window.
   std::function<bool(int yields)> stays = [](int) { return true; };
   // Reads a list view by its messages on a 64-bit system, too.
   bool as32BitSystem = false;

@@ -1,4 +1,4 @@
-// A key of the registry that tests put something into, gone with everything in it afterwards.
+// A key of the registry for a test, deleted with its content afterwards.
 #pragma once
 
 #include <windows.h>

@@ -98,7 +98,7 @@ TEST_F(AccessibleObjectTest, FromTheWindowTheReportNamesIt) {
                                     "Children 　: 取得最大個数は０になっています"));
 }
 
-// The pointer itself stands over the desktop.
+// The pointer itself is over the desktop.
 TEST_F(AccessibleObjectTest, WithAShiftReportAndTreeAreThoseOfTheShiftedPoint) {
   const FixtureProcess fruit(kFruit);
   const FixtureProcess tree("place=40,400,300,200 tree=5");
@@ -154,6 +154,20 @@ TEST_F(AccessibleObjectTest, AnEndlessTreeIsLeftWhenThePointerMovesOn) {
   EXPECT_TRUE(program.IsCapturing());
 }
 
+TEST_F(AccessibleObjectTest, ClosingInTheMiddleOfAReportEndsAtOnceAndSavesNothing) {
+  const FixtureProcess endless("place=40,40,200,300 endless");
+  const Program program({.conf = "shiftx = 9\n"});
+  program.StartCapture();
+  pointer::MoveTo({100, 100});
+  ASSERT_TRUE(WaitFor("many items are counted", [&](std::string& seen) {
+    seen = program[ui::txtCount].Text();
+    return seen.size() > 1;
+  }));
+  program.Close();
+  EXPECT_EQ(program.Process().WaitForExit(Milliseconds(1500)), 0U);
+  EXPECT_EQ(program.ConfBytes(), "shiftx = 9\r\n");
+}
+
 std::vector<unsigned> Ticks(const std::string& actions, const std::string& action) {
   std::vector<unsigned> ticks;
   for (const std::string& one : Split(actions, ";")) {
@@ -202,7 +216,7 @@ TEST_F(AccessibleObjectTest, WithoutAnActionTestTheKeyDoesNothing) {
 }
 
 // The objects of Wine's own controls have no actions.
-TEST_F(AccessibleObjectTest, AFailedActionIsToldInABoxWithAnOkButton) {
+TEST_F(AccessibleObjectTest, AFailedActionIsShownInABoxWithAnOkButton) {
   const WineProgram notepad("notepad.exe", "", "Notepad");
   notepad.MoveTo(30, 30, 560, 420);
   const FixtureProcess fruit("place=40,500,400,300 fruit");
@@ -232,7 +246,32 @@ TEST_F(AccessibleObjectTest, AFailedActionIsToldInABoxWithAnOkButton) {
   EXPECT_TRUE(program.IsCapturing());
 }
 
-TEST_F(AccessibleObjectTest, AnEdgeBeyond32BitsIsToldInABoxAndTheCaptureGoesOn) {
+// The desktop of Wine has no accessible object.
+TEST_F(AccessibleObjectTest, AnActionWithoutAnObjectIsShownInABoxWithAnOkButton) {
+  for (const char* const mode : {"1", "2", "3"}) {
+    const Program program({.conf = std::string("action test = ") + mode + "\n"});
+    program.MoveWindowTo(640, 20, 600, 700);
+    program.StartCapture();
+    pointer::MoveTo({200, 300});
+    ASSERT_TRUE(program[ui::txtWin0].TextBecomes("#32769"));
+    keys::Stroke({VK_CONTROL});
+    const DialogWindow box(program, kMessageBoxClass);
+    std::string text;
+    std::string buttons;
+    for (HWND window : Descendants(box.Window().Handle())) {
+      const Control part(window, "a part of the box");
+      if (part.IsVisible()) (part.ClassName() == "Button" ? buttons : text) += part.Text();
+    }
+    EXPECT_EQ(text, "MSAAオブジェクトではありません");
+    EXPECT_EQ(buttons, "OK");
+    box.Close();
+    EXPECT_TRUE(box.Closes());
+    EXPECT_TRUE(program.IsCapturing());
+    EXPECT_EQ(program.CloseMessages(), 0);
+  }
+}
+
+TEST_F(AccessibleObjectTest, AnEdgeBeyond32BitsIsShownInABoxAndTheCaptureGoesOn) {
   const FixtureProcess overflow("place=40,40,200,300 overflow");
   const FixtureProcess fruit("place=260,40,200,300 fruit");
   const Program program({.conf = "detail = 1\n"});
@@ -294,7 +333,7 @@ TEST_P(AccessibleProgramTest, IsReported) {
   const RECT at = part.Rectangle();
   pointer::MoveTo({at.left + 30, at.top + 12});
   EXPECT_TRUE(program[ui::txthWnd].TextBecomes(part.HandleText()));
-  EXPECT_TRUE(WaitFor("the report is told to its end", [&](std::string& seen) {
+  EXPECT_TRUE(WaitFor("the report is complete", [&](std::string& seen) {
     seen = program.TopPane().Text();
     return seen.starts_with("MSAA(MS Active Accessibility)情報\r\n") &&
            seen.find(std::string("Role       : ") + GetParam().role + "\r\n") !=
@@ -302,7 +341,7 @@ TEST_P(AccessibleProgramTest, IsReported) {
            seen.find("Children   : ") != std::string::npos;
   }));
   EXPECT_TRUE(program[ui::lblMsg].TextBecomes(""));
-  SaveScreenshot(std::string("details-") + GetParam().partClass);
+  SaveScreenshotWhenPainted(std::string("details-") + GetParam().partClass);
 }
 
 INSTANTIATE_TEST_SUITE_P(

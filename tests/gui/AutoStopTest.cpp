@@ -1,4 +1,4 @@
-// The capture that stops by itself after the pointer has rested.
+// The automatic stop of a capture after the pointer has rested.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -20,9 +20,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// What a busy machine may add to a time that the program keeps.
+// The tolerance for times of the program on a busy machine.
 constexpr double kSlack = 0.45;
-// Timers and ticks are coarse: this much may be missing.
+// Timers and ticks are coarse: a time may be shorter by this much.
 constexpr double kShort = 0.1;
 
 class AutoStopTest : public GuiTest {
@@ -59,7 +59,7 @@ TEST_F(AutoStopTest, CountsTheLastThreeSecondsDownAndStops) {
   EXPECT_EQ(program[ui::lblAutoStop].Text(), "");
 }
 
-TEST_F(AutoStopTest, MovingPointerHoldsTheCountdownUp) {
+TEST_F(AutoStopTest, MovingPointerDelaysTheCountdown) {
   const Program program({.conf = "auto stop = 1\nauto stop time = 2\n"});
   program.StartCapture();
   LONG x = 100;
@@ -166,7 +166,7 @@ TEST_F(AutoStopTest, StopByHandDoesNotClose) {
       program[ui::cmdGo].PressButton();
     }
     ASSERT_TRUE(program[ui::cmdGo].TextBecomes("開始"));
-    // Longer than a capture that closes the program shows its window after the stop.
+    // Longer than the window is shown after the stop of a capture that closes the program.
     EXPECT_TRUE(Stays(
         "the program goes on",
         [&](std::string&) { return program.Process().IsRunning() && program.Window().IsVisible(); },
@@ -175,7 +175,7 @@ TEST_F(AutoStopTest, StopByHandDoesNotClose) {
   }
 }
 
-TEST_F(AutoStopTest, MissingSoundIsPassedOverInSilence) {
+TEST_F(AutoStopTest, MissingSoundIsIgnored) {
   const Program program({.conf = "auto stop = 1\nauto stop time = 1\nchime = 1\n"
                                  "chime file = 無い音.wav\n"});
   program.StartCapture();

@@ -4,6 +4,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "driver/Clipboard.h"
 #include "driver/GuiTest.h"
 #include "driver/Keys.h"
@@ -136,6 +139,23 @@ TEST_F(BoxEventsTest, CtrlCWorksInTheSmallBoxes) {
   Require(IsAllSelected(program[ui::txtWin0], 6));
   keys::Stroke({VK_CONTROL, 'C'});
   EXPECT_TRUE(ClipboardBecomes("Static"));
+}
+
+TEST_F(BoxEventsTest, CtrlCWorksInEveryBox) {
+  for (const int member : {0, 1}) {
+    const Program program({.conf = "clipboard = 0\nturn back = " + std::to_string(member) + "\n"});
+    for (const int id :
+         std::vector<int>{ui::txthWnd, ui::txtStatus, ui::txtWin0, ui::txtWin1, ui::txtWin2,
+                          ui::txtWin3, ui::txtWinTextT0 + member, ui::txtWinTextB0 + member}) {
+      const Control box = program[id];
+      const std::string text = "箱 " + std::to_string(id) + " の中身";
+      box.SetText(text);
+      box.DoubleClick();
+      ASSERT_TRUE(IsAllSelected(box, static_cast<DWORD>(box.TextLength()))) << "control " << id;
+      keys::Stroke({VK_CONTROL, 'C'});
+      EXPECT_TRUE(ClipboardBecomes(text)) << "control " << id;
+    }
+  }
 }
 
 }  // namespace

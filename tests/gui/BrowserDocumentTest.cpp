@@ -66,15 +66,15 @@ TEST_F(BrowserDocumentTest, AnElementInAllPanesAndBoxes) {
   EXPECT_TRUE(program[ui::lblTextKind].TextBecomes("HTML"));
   EXPECT_TRUE(program[ui::lblMsg].TextBecomes(""));
   EXPECT_FALSE(program[ui::txtCount].IsVisible());
-  SaveScreenshot("page-element");
+  SaveScreenshotWhenPainted("page-element");
 
   program[ui::chkDetail].PressButton();
   EXPECT_TRUE(program.BottomPane().TextBecomes(FRUIT_TABLE));
-  EXPECT_TRUE(WaitFor("the accessible report stands in the top pane", [&](std::string& seen) {
+  EXPECT_TRUE(WaitFor("the accessible report is in the top pane", [&](std::string& seen) {
     seen = program.TopPane().Text();
     return seen.starts_with("MSAA(MS Active Accessibility)情報\r\n");
   }));
-  SaveScreenshot("page-element-detail");
+  SaveScreenshotWhenPainted("page-element-detail");
 }
 
 TEST_F(BrowserDocumentTest, DisplayedTextInsteadOfMarkup) {
@@ -99,7 +99,7 @@ TEST_F(BrowserDocumentTest, TheTableOfAnInputInDetail) {
   EXPECT_TRUE(program[ui::txtWin3].TextBecomes("無花果"));
 }
 
-// With a shift the frames are those of the point that is read, the element that of the pointer.
+// With a shift the read point selects the frames, and the pointer the element.
 TEST_F(BrowserDocumentTest, AShiftedPointChoosesTheFrame) {
   const BrowserProcess browser(std::string(kPlace) + "scrolled");
   const Program program({.conf = "shift = 1\nshiftx = -290\nshifty = -210\ndisp text = 1\n"});
@@ -130,7 +130,7 @@ TEST_F(BrowserDocumentTest, FramesAreNamedInTheBox) {
                                        "HTML                                        広告\r\n"
                                        "BODY                                        広告\r\n"
                                        "P                   pr                      広告\r\n"));
-  SaveScreenshot("page-frames-detail");
+  SaveScreenshotWhenPainted("page-frames-detail");
 }
 
 TEST_F(BrowserDocumentTest, OtherWindowsAreReportedAfterAHungOne) {
@@ -149,9 +149,9 @@ TEST_F(BrowserDocumentTest, OtherWindowsAreReportedAfterAHungOne) {
   EXPECT_TRUE(program.IsCapturing());
 }
 
-// What fails on the way to the element is told in a box, and the capture waits for the user. The
-// shift keeps the frames' way, which looks at the point that is read, apart from the element's.
-TEST_F(BrowserDocumentTest, APageThatEndsOnTheWayToItsElementIsToldInABox) {
+// A failure in the search for the element is shown in a box, and the capture waits for the user.
+// With the shift the descent of the read point and the one of the pointer are at different points.
+TEST_F(BrowserDocumentTest, APageThatEndsDuringTheSearchForItsElementIsShownInABox) {
   const Fixture fixture("place=40,400,480,420 button=隣");
   const Program program({.conf = "shift = 1\nshiftx = 20\nshifty = 0\ndisp top = 1\n"
                                  "form left = 490\nform top = 40\nform right = 1200\n"
@@ -162,7 +162,7 @@ TEST_F(BrowserDocumentTest, APageThatEndsOnTheWayToItsElementIsToldInABox) {
   {
     const DialogWindow box(program, kMessageBoxClass);
     EXPECT_EQ(box.Window().Text(), "GetElFromPoint");
-    // Not even a main window that stays in front hides it.
+    // Not even a topmost main window hides it.
     EXPECT_EQ(GetAncestor(WindowFromPoint(box.Window().Center()), GA_ROOT), box.Window().Handle());
     EXPECT_NE(GetWindowLongW(box.Window().Handle(), GWL_EXSTYLE) & WS_EX_TOPMOST, 0);
     std::string text;
@@ -170,7 +170,7 @@ TEST_F(BrowserDocumentTest, APageThatEndsOnTheWayToItsElementIsToldInABox) {
     // The system's errors of remote calls.
     EXPECT_NE(text.find("-21470231"), std::string::npos) << text;
     EXPECT_NE(text.find("\r\nError Line = 0"), std::string::npos) << text;
-    SaveScreenshot("page-error");
+    SaveScreenshotWhenPainted("page-error");
     pointer::MoveTo(fixture["button"].Center());
     EXPECT_TRUE(program.IsCapturing());
     box.Close();
@@ -204,14 +204,14 @@ TEST_F(BrowserDocumentTest, HostilePagesDoNotEndTheCapture) {
     EXPECT_TRUE(WaitFor(
         "the other window is reported",
         [&](std::string& seen) {
-          // The page has ended somewhere in its report, perhaps on the way to the element.
+          // The page has ended during its report, perhaps in the search for the element.
           program.CloseMessages();
           seen = program[ui::txthWnd].Text();
           return seen == fixture["button"].HandleText();
         },
         Milliseconds(30000)))
         << scene;
-    EXPECT_TRUE(WaitFor("the report is told to its end", [&](std::string& seen) {
+    EXPECT_TRUE(WaitFor("the report is complete", [&](std::string& seen) {
       seen = program.BottomPane().Text();
       return seen.find(fixture["button"].HandleText()) != std::string::npos;
     })) << scene;

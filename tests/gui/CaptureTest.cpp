@@ -284,7 +284,7 @@ TEST_F(CaptureTest, DetailBoxRedisplaysAndIsSaved) {
   EXPECT_EQ(ValueOf(program.ConfLines(), "detail"), "1");
 }
 
-TEST_F(CaptureTest, WrapBoxHandsTextsAndHeightToTheOtherPanes) {
+TEST_F(CaptureTest, WrapBoxCopiesTextsAndHeightToTheOtherPanes) {
   const Fixture fixture(kFixtureWords);
   const Program program({.conf = "top height = 1650\n"});
   program.StartCapture();

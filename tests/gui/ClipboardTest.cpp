@@ -55,6 +55,48 @@ TEST_F(ClipboardTest, ModeTopCopiesTheTopPane) {
   EXPECT_EQ(clipboard::Text(), "拾った文字");
 }
 
+// Another program keeps the clipboard open.
+class HeldClipboardTest : public ClipboardTest {
+ protected:
+  HeldClipboardTest()
+      : holder_(CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr,
+                                nullptr)) {}
+  ~HeldClipboardTest() override {
+    CloseClipboard();
+    DestroyWindow(holder_);
+  }
+  void Hold() const {
+    Require(WaitFor("the clipboard is held",
+                    [&](std::string&) { return OpenClipboard(holder_) != FALSE; }));
+  }
+  static constexpr char kFailed[] = "クリップボードに転送できませんでした";
+
+ private:
+  HWND holder_;
+};
+
+TEST_F(HeldClipboardTest, TheEndOfACaptureReportsIt) {
+  const Program program({.conf = "clipboard = 2\n"});
+  Hold();
+  CaptureAndStop(program, fixture_);
+  EXPECT_TRUE(program[ui::lblMsg].TextBecomes(kFailed));
+  CloseClipboard();
+  EXPECT_EQ(clipboard::Text(), "元のまま");
+}
+
+TEST_F(HeldClipboardTest, AClickReportsIt) {
+  const Program program({.conf = "clipboard = 1\n"});
+  CaptureAndStop(program, fixture_);
+  Hold();
+  program.TopPane().Click();
+  EXPECT_TRUE(program[ui::lblMsg].TextBecomes(kFailed));
+  CloseClipboard();
+  EXPECT_EQ(clipboard::Text(), "元のまま");
+  program.TopPane().Click();
+  EXPECT_TRUE(program[ui::lblMsg].TextBecomes("テキスト転送完了！"));
+  EXPECT_EQ(clipboard::Text(), "拾った文字");
+}
+
 TEST_F(ClipboardTest, ModeBottomCopiesTheBottomPane) {
   const Program program({.conf = "clipboard = 3\ndetail = 1\n"});
   program.StartCapture();

@@ -13,7 +13,7 @@
 namespace gui {
 namespace {
 
-// "At once", on a busy machine.
+// The tolerance for "at once", on a busy machine.
 constexpr Milliseconds kAtOnce{1500};
 
 class ClosingTest : public GuiTest {};

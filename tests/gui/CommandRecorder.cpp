@@ -1,5 +1,5 @@
-// Stands in for a program that the tested one starts: writes its command line (UTF-8, one line)
-// into the file "command.txt" in the folder it is started in, and ends.
+// Replaces a program that the tested one starts: writes its command line (UTF-8, one line) into the
+// file "command.txt" in the folder it is started in, and ends.
 #include <windows.h>
 
 #include <cstdio>

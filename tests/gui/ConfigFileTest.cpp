@@ -221,7 +221,7 @@ TEST_F(ConfigFileTest, MinimisedWindowSavesItsRectangleAndPaneHeight) {
   EXPECT_EQ(ValueOf(lines, "top height"), "1950");
 }
 
-TEST_F(ConfigFileTest, FileThatCannotBeWrittenStaysAndNothingIsSaid) {
+TEST_F(ConfigFileTest, FileThatCannotBeWrittenStaysWithoutAMessage) {
   Program program({.conf = "shiftx = 5\n"});
   {
     const OwnedHandle held(CreateFileW(program.ConfFile().c_str(), GENERIC_READ, FILE_SHARE_READ,

@@ -1,4 +1,4 @@
-// The settings dialog beside the main window and a capture.
+// The settings dialog together with the main window and a capture.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -75,6 +75,20 @@ TEST_F(DialogAndCaptureTest, CaptureStartsAndStopsWhileTheDialogIsOpen) {
   program.StartCapture();
   program.StopCapture();
   EXPECT_TRUE(dialog.IsOpen());
+}
+
+TEST_F(DialogAndCaptureTest, StayingInFrontWaitsForTheDialogToClose) {
+  const Program program({.conf = "disp top = 1\nsetting no = 3\n"});
+  const DialogWindow dialog = OpenSettings(program);
+  program.StartCapture();
+  const auto isTopmost = [&](std::string&) {
+    return (GetWindowLongW(program.Window().Handle(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+  };
+  ASSERT_TRUE(WaitFor("the window is topmost", isTopmost));
+  const Control box = dialog[ui::chkDispTop];
+  box.PressButton();
+  ASSERT_TRUE(WaitFor("the box is clear", [&](std::string&) { return !box.IsChecked(); }));
+  EXPECT_TRUE(Stays("the window stays topmost", isTopmost, Milliseconds(500)));
 }
 
 TEST_F(DialogAndCaptureTest, StayingInFrontIsAppliedOnceTheDialogIsClosed) {

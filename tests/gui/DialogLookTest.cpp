@@ -4,7 +4,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <string>
 
 #include "DialogWindow.h"
@@ -21,19 +20,6 @@ using testing::IsEmpty;
 
 class DialogLookTest : public GuiTest, public testing::WithParamInterface<UINT> {
  protected:
-  // A picture of the dialog once it is painted: two looks in a row show the same.
-  static void SaveWhenPainted(const DialogWindow& dialog, const std::string& name) {
-    std::optional<Picture> before;
-    EXPECT_TRUE(WaitFor("the dialog is painted", [&](std::string&) {
-      Last(Milliseconds(60));
-      Picture now = Picture::Of(dialog.Window().Rectangle());
-      const bool same = before.has_value() && *before == now;
-      before = std::move(now);
-      return same;
-    }));
-    SaveScreenshot(name + "-" + std::to_string(GetParam()));
-  }
-
   static void ExpectTidy(const DialogWindow& dialog) {
     EXPECT_THAT(Overlaps(dialog.Window()), IsEmpty());
     EXPECT_THAT(Protruding(dialog.Window()), IsEmpty());
@@ -57,7 +43,7 @@ TEST_P(DialogLookTest, EveryPageShowsEverything) {
     ASSERT_TRUE(WaitFor("the page is shown",
                         [&](std::string&) { return settings[ui::FrList0 + page].IsVisible(); }));
     ExpectTidy(settings);
-    SaveWhenPainted(settings, "setting-" + std::to_string(page));
+    SaveScreenshotWhenPainted("setting-" + std::to_string(page) + "-" + std::to_string(GetParam()));
   }
   EXPECT_TRUE(IsOnScreen(settings));
 }
@@ -69,7 +55,7 @@ TEST_P(DialogLookTest, HotKeyDialogShowsEverything) {
   const DialogWindow option = OpenHotKeys(program, settings);
   ExpectTidy(option);
   EXPECT_TRUE(IsOnScreen(option));
-  SaveWhenPainted(option, "option");
+  SaveScreenshotWhenPainted("option-" + std::to_string(GetParam()));
 }
 
 INSTANTIATE_TEST_SUITE_P(Dpi, DialogLookTest, testing::Values(96U, 120U, 144U, 192U),

@@ -59,7 +59,7 @@ int ItemCount(const Control& list) {
 }
 
 std::string Item(const Control& list, int index) {
-  // The wide message delivers wide text in another process too.
+  // The wide message returns wide text from another process too.
   wchar_t text[128] = {};
   SendMessageW(list.Handle(), CB_GETLBTEXT, static_cast<WPARAM>(index),
                reinterpret_cast<LPARAM>(text));

@@ -23,7 +23,7 @@ class DialogWindow {
   bool IsOpen() const { return IsWindow(window_) != FALSE; }
   testing::AssertionResult Closes() const;
 
-  // Posts the order that its close box gives.
+  // Posts the command of its close box.
   void Close() const;
 
  private:

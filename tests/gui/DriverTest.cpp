@@ -1,5 +1,8 @@
-// The driver itself, tried on the fixture: a driver that sees too little lets everything pass.
+// The driver itself, tested on the fixture: with a driver that sees too little every test passes.
 #include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
 
 #include "driver/Clipboard.h"
 #include "driver/GuiTest.h"
@@ -62,6 +65,35 @@ TEST_F(DriverTest, PictureShowsTheScreensColors) {
            static_cast<std::size_t>(picture.Width()) * static_cast<std::size_t>(picture.Height());
   }));
   EXPECT_TRUE(std::filesystem::exists(SaveScreenshot("driver")));
+}
+
+TEST_F(DriverTest, PictureWaitsUntilThePaintingIsOver) {
+  const RECT at = {300, 200, 400, 260};
+  constexpr COLORREF kLast = RGB(0, 128, 0);
+  // In another thread, because this one waits.
+  std::atomic<bool> begun = false;
+  std::thread painter([&] {
+    const HWND window =
+        CreateWindowExW(WS_EX_TOPMOST, L"STATIC", L"", WS_POPUP | WS_VISIBLE, at.left, at.top, 100,
+                        60, nullptr, nullptr, nullptr, nullptr);
+    const RECT whole = {0, 0, 100, 60};
+    const HDC dc = GetDC(window);
+    for (int i = 0; i <= 30; ++i) {
+      SetDCBrushColor(dc, i == 30 ? kLast : RGB(i * 8, 0, 0));
+      FillRect(dc, &whole, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+      // What was drawn reaches the screen when the thread looks for messages.
+      MSG message;
+      while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+      begun = true;
+      Last(Milliseconds(20));
+    }
+    Last(Milliseconds(1000));
+    ReleaseDC(window, dc);
+    DestroyWindow(window);
+  });
+  EXPECT_TRUE(WaitFor("the painting has begun", [&](std::string&) { return begun.load(); }));
+  EXPECT_EQ(PictureWhenPainted(at).Count(kLast), 6000U);
+  painter.join();
 }
 
 TEST_F(DriverTest, ClipboardKeepsAJapaneseText) {

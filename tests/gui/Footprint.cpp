@@ -44,7 +44,7 @@ void AddFiles(const std::wstring& folder, Stamps& stamps) {
   } while (FindNextFileW(search.get(), &found));
 }
 
-// A key is stamped when a value of it or the list of its subkeys is written.
+// A key's time changes when one of its values or the list of its subkeys is written.
 void AddKeys(HKEY parent, const std::wstring& name, const std::string& path, Stamps& stamps) {
   HKEY opened = nullptr;
   if (RegOpenKeyExW(parent, name.c_str(), 0, KEY_READ | KEY_WOW64_64KEY, &opened) !=

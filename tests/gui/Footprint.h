@@ -1,4 +1,4 @@
-// What stands on the system drive and in the registry, so that two moments can be compared.
+// The content of the system drive and of the registry, so that two moments can be compared.
 #pragma once
 
 #include <filesystem>
@@ -13,8 +13,8 @@ class Footprint {
   // All of drive C and of the registry, and everything in `folder`.
   static Footprint Now(const std::filesystem::path& folder);
 
-  // The paths and keys that came, went or were written since then. A file that came and went again
-  // shows as its folder.
+  // The paths and keys that were created, removed or written since then. A file that was created
+  // and removed again shows as its folder.
   std::set<std::string> ChangesSince(const Footprint& before) const;
 
   std::size_t Files() const { return files_.size(); }

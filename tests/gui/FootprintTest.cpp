@@ -1,4 +1,4 @@
-// What a whole life of the program leaves behind, and what it loads.
+// What a whole run of the program leaves behind, and what it loads.
 #include <windows.h>
 
 #include <shlobj.h>
@@ -31,7 +31,7 @@ constexpr const wchar_t* kOverflowFile = L"文字数オーバー上段(Velmora).
 constexpr const char* kNetworkLibraries[] = {"ws2_32.dll",  "wsock32.dll",    "mswsock.dll",
                                              "wininet.dll", "winhttp.dll",    "urlmon.dll",
                                              "dnsapi.dll",  "webservices.dll"};
-// Wine notes there which of the user's settings were asked for, whoever asks.
+// Wine records there which settings of the user any program has read.
 constexpr const char* kAskedSettings = "\\Software\\Wine\\Temporary System Parameters";
 constexpr std::uintmax_t kOverLong = 65535;
 
@@ -70,7 +70,7 @@ class FootprintTest : public GuiTest {
 
   static std::filesystem::path OverflowFile() { return Desktop() / kOverflowFile; }
 
-  // What the program reads from in its life: a caption, an over-long list and an accessible object.
+  // What the program reads during its run: a caption, an over-long list and an accessible object.
   struct Targets {
     Fixture fixture{"title=t static=名札 list=1700"};
     accessible::FixtureProcess object{"title=o place=600,40,200,200 tree"};

@@ -1,4 +1,4 @@
-// The counts see what is taken and given back, in this process and in another one.
+// The counts see what is acquired and released, in this process and in another one.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -44,7 +44,7 @@ TEST(HoldingsTest, SeesWindowsOfEveryKind) {
   const auto make = [](HWND parent, DWORD style) {
     return CreateWindowExW(0, L"STATIC", L"", style, 0, 0, 9, 9, parent, nullptr, nullptr, nullptr);
   };
-  // The first ones bring the system's own windows along.
+  // With the first ones the system creates windows of its own.
   HWND firstTop = make(nullptr, WS_POPUP);
   HWND firstForMessages = make(HWND_MESSAGE, 0);
   const int before = OwnHoldings().windows;

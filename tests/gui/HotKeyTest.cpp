@@ -1,4 +1,4 @@
-// Keys that reach the program from anywhere.
+// Keys that work in every program.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -111,7 +111,8 @@ TEST_F(HotKeyTest, ContinuedCaptureCopiesInsteadOfStopping) {
   EXPECT_TRUE(program[ui::cmdGo].TextStays("停止", Milliseconds(200)));
 }
 
-// The fixture must hold the foreground: only then is bringing the program to the front seen.
+// The fixture must hold the foreground: otherwise bringing the program to the front could not be
+// seen.
 void PutInFront(const Control& window) {
   window.Click();
   Require(WaitFor("the fixture is in front", [&](std::string&) {

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "ListFixture.h"
+#include "driver/Clipboard.h"
 #include "driver/GuiTest.h"
 #include "driver/Keys.h"
 #include "driver/Pointer.h"
@@ -34,7 +35,7 @@ class HugeListTest : public GuiTest {
 
   // Returns once rows are arriving.
   void BeginReading(const Program& program) const {
-    Require(WaitFor("the list stands under that point", [&](std::string&) {
+    Require(WaitFor("the list is under that point", [&](std::string&) {
       return WindowFromPoint(list_.Center()) == list_.Handle();
     }));
     pointer::MoveTo(list_.Center());
@@ -49,7 +50,7 @@ class HugeListTest : public GuiTest {
   const Control list_{fixture_["ownerdata"], "the list"};
 };
 
-TEST_F(HugeListTest, GivesWayToTheNextReportAtOnce) {
+TEST_F(HugeListTest, YieldsToTheNextReportAtOnce) {
   const Fixture other("static=次 button=前 place=600,400,480,200");
   const Program program;
   program.MoveWindowTo(820, 20, 420, 360);
@@ -62,7 +63,7 @@ TEST_F(HugeListTest, GivesWayToTheNextReportAtOnce) {
     EXPECT_TRUE(program.TopPane().TextBecomes(text));
     return std::chrono::steady_clock::now() - start;
   };
-  // The same on an idle program, the slowest of some, so that a busy machine counts on both sides.
+  // The same on an idle program, the slowest of some, so that a busy machine affects both sides.
   timeToReport("button", "前");
   auto usual = std::chrono::steady_clock::duration::zero();
   for (int i = 0; i < 3; ++i) {
@@ -78,7 +79,7 @@ TEST_F(HugeListTest, KeepsTheRowsThatWereReadAndMarksTheEnd) {
   program.MoveWindowTo(820, 20, 420, 460);
   program.StartCapture();
   BeginReading(program);
-  // On and on, so that no other report takes the text away.
+  // Repeatedly, so that no other report replaces the text.
   LONG step = 0;
   std::string text;
   EXPECT_TRUE(WaitFor("the text ends with the mark", [&](std::string& seen) {
@@ -91,6 +92,16 @@ TEST_F(HugeListTest, KeepsTheRowsThatWereReadAndMarksTheEnd) {
   ASSERT_THAT(count, EndsWith(kOfAll));
   EXPECT_EQ(std::to_string(std::count(text.begin(), text.end(), '\n')),
             count.substr(0, count.size() - kOfAll.size()));
+}
+
+TEST_F(HugeListTest, ClosingInTheMiddleEndsAtOnceAndSavesNothing) {
+  const Program program({.conf = "shiftx = 9\n"});
+  program.MoveWindowTo(820, 20, 420, 460);
+  program.StartCapture();
+  BeginReading(program);
+  program.Close();
+  EXPECT_EQ(program.Process().WaitForExit(Milliseconds(1500)), 0U);
+  EXPECT_EQ(program.ConfBytes(), "shiftx = 9\r\n");
 }
 
 TEST_F(HugeListTest, LeavesPositionButtonsAndStopKeyAlive) {
@@ -115,8 +126,31 @@ TEST_F(HugeListTest, LeavesPositionButtonsAndStopKeyAlive) {
                       [&](std::string&) { return !program[ui::chkDetail].IsChecked(); }));
   keys::Stroke({VK_ESCAPE});
   EXPECT_TRUE(program[ui::cmdGo].TextBecomes("開始"));
-  // It did not read to the end first.
+  // It did not read to the end before that.
   EXPECT_THAT(program.BottomPane().Text(), EndsWith("\r\n・・・中断・・・"));
+}
+
+// The copied text is the one that was read here, not what the pane showed before.
+TEST_F(HugeListTest, WithContinueThePressWaitsForTheEndOfTheReport) {
+  const Program program({.conf = "continue = 1\n"});
+  program.MoveWindowTo(820, 20, 420, 460);
+  clipboard::SetText("前の中身");
+  program.StartCapture();
+  BeginReading(program);
+  keys::Stroke({VK_ESCAPE});
+  const std::string count = program[ui::txtCount].Text();
+  EXPECT_TRUE(WaitFor("the reading goes on", [&](std::string& seen) {
+    seen = program[ui::txtCount].Text();
+    return seen != count && seen.ends_with(kOfAll);
+  }));
+  EXPECT_EQ(clipboard::Text(), "前の中身");
+  // Leaving the list ends the report, and the press is handled.
+  pointer::MoveTo({600, 700});
+  EXPECT_TRUE(WaitFor("the text of the report is copied", [&](std::string& seen) {
+    seen = clipboard::Text().value_or("(no text)");
+    return seen != "前の中身";
+  }));
+  EXPECT_TRUE(program.IsCapturing());
 }
 
 TEST_F(HugeListTest, EndsWithTheButtonToo) {

@@ -1,4 +1,4 @@
-// The main window worked with the keyboard alone.
+// The main window used with the keyboard alone.
 #include <windows.h>
 
 #include <gmock/gmock.h>
@@ -51,7 +51,7 @@ TEST_F(KeyboardTest, TabVisitsEveryControlAndComesBack) {
                             static_cast<int>(ui::chkAutoStop), static_cast<int>(ui::chkTurnBack),
                             static_cast<int>(ui::chkDetail), static_cast<int>(ui::txtWinTextB0),
                             static_cast<int>(ui::Help_Url)}));
-  // The hidden members of the pane pairs are passed over.
+  // The hidden members of the pane pairs are skipped.
   EXPECT_THAT(visited, testing::Not(testing::Contains(static_cast<int>(ui::txtWinTextT1))));
 }
 

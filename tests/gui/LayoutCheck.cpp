@@ -67,10 +67,10 @@ class Ruler {
   }
 
   OwnedFont font_;
-  OwnedMemoryDc dc_;  // goes first: a font that is still selected cannot be deleted
+  OwnedMemoryDc dc_;  // destroyed first: a selected font cannot be deleted
 };
 
-// The longest text that a control usually shows; empty when its own caption counts.
+// The longest text that a control usually shows; empty when its own caption is measured.
 std::string LongestUsualText(int id) {
   switch (id) {
     case ui::lblMousePos:
@@ -83,6 +83,9 @@ std::string LongestUsualText(int id) {
       return "Shift+PAUSE/BREAKで停止\r\nCtrl で DoDefAction Test";
     case ui::lblAutoStop:
       return "3";
+    case ui::lblTextKind:
+    case ui::lblListKind:
+      return "LVM_GETITEMW";
     default:
       return "";
   }
@@ -112,7 +115,7 @@ std::string LongestItem(const Control& list, const Ruler& ruler) {
   return longest;
 }
 
-// What a control needs beside its text.
+// The space that a control needs in addition to its text.
 SIZE Surroundings(const Control& control, UINT dpi) {
   const LONG unit = static_cast<LONG>(dpi);
   const LONG_PTR kind = control.Style() & BS_TYPEMASK;

@@ -1,4 +1,4 @@
-// What a user would call a broken layout, found from outside.
+// Finds from outside what a user would call a broken layout.
 #pragma once
 
 #include <windows.h>
@@ -10,13 +10,13 @@
 
 namespace gui {
 
-// Each function returns one line for every fault, so an empty list means that all is well.
+// Each function returns one line for every fault, so an empty list means that there is none.
 
 // Visible controls of the same parent that cover each other. The bottom pane and the status box
 // may share one pixel row: they are laid out so.
 std::vector<std::string> Overlaps(const Control& window);
 
-// Visible controls that reach beyond their parent's inner area.
+// Visible controls that extend beyond their parent's inner area.
 std::vector<std::string> Protruding(const Control& window);
 
 // Captions, items of lists, and boxes with their longest usual text, that are wider or higher than

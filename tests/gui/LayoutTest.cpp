@@ -1,4 +1,4 @@
-// Where the main window's controls stand, at every size and resolution.
+// The places of the main window's controls, at every size and resolution.
 #include <windows.h>
 
 #include <gmock/gmock.h>
@@ -6,7 +6,6 @@
 
 #include <array>
 #include <map>
-#include <utility>
 
 #include "LayoutCheck.h"
 #include "SettingsText.h"
@@ -54,19 +53,11 @@ TEST_F(LayoutTest, RightPartsFollowTheWindowsWidth) {
   }
 }
 
-// What was left out, or was left behind, is seen when everything is drawn anew.
+// Parts that were not drawn, or not erased, are seen after everything is drawn again.
 class DrawingTest : public LayoutTest {
  protected:
-  // The window's inside, once it stays as it is.
   static Picture Shown(const Program& program) {
-    Picture last = Picture::Of(InnerArea(program.Window()));
-    Require(WaitFor("the picture stays as it is", [&](std::string&) {
-      SendMessageW(program.Window().Handle(), WM_NULL, 0, 0);
-      Last(Milliseconds(50));
-      const Picture before = std::exchange(last, Picture::Of(InnerArea(program.Window())));
-      return before == last;
-    }));
-    return last;
+    return PictureWhenPainted(InnerArea(program.Window()));
   }
   static bool IsDrawnWhole(const Program& program) {
     const Picture drawn = Shown(program);
@@ -151,7 +142,7 @@ TEST_F(LayoutTest, VeryNarrowWindowKeepsWorking) {
   ASSERT_TRUE(WaitFor("the window is narrow",
                       [&](std::string&) { return program.Window().Size().cx < 200; }));
   EXPECT_GT(program[ui::lblStatus].Size().cx, 0);
-  // The steps that can still be carried out are: the foot stands at its place.
+  // The steps that are still possible run: the foot is at its place.
   EXPECT_EQ(program[ui::fr_Help].Rectangle().bottom, InnerArea(program.Window()).bottom - 5);
 
   program.MoveWindowTo(50, 50, 384, 427);
@@ -159,7 +150,7 @@ TEST_F(LayoutTest, VeryNarrowWindowKeepsWorking) {
                           [&] { return std::to_string(program[ui::lblStatus].Size().cx); }));
 }
 
-// Whole twips to a pixel, as the program lays out.
+// Whole twips per pixel, as in the program's layout.
 LONG TwipsPerPixel(UINT dpi) { return 1440 / static_cast<LONG>(dpi); }
 
 LONG PixelsRoundedUp(LONG twips, UINT dpi) {
@@ -181,7 +172,7 @@ TEST_P(ResolutionTest, DefaultSizeShowsEverything) {
   EXPECT_THAT(Overlaps(program.Window()), IsEmpty());
   EXPECT_THAT(Protruding(program.Window()), IsEmpty());
   EXPECT_THAT(ClippedTexts(program.Window(), GetParam()), IsEmpty());
-  SaveScreenshot("default-" + std::to_string(GetParam()));
+  SaveScreenshotWhenPainted("default-" + std::to_string(GetParam()));
 }
 
 TEST_P(ResolutionTest, SmallestSizeShowsEverything) {
@@ -191,7 +182,7 @@ TEST_P(ResolutionTest, SmallestSizeShowsEverything) {
   EXPECT_THAT(Overlaps(program.Window()), IsEmpty());
   EXPECT_THAT(Protruding(program.Window()), IsEmpty());
   EXPECT_THAT(ClippedTexts(program.Window(), GetParam()), IsEmpty());
-  SaveScreenshot("smallest-" + std::to_string(GetParam()));
+  SaveScreenshotWhenPainted("smallest-" + std::to_string(GetParam()));
 }
 
 TEST_P(ResolutionTest, StoredSizesSurvive) {

@@ -1,5 +1,5 @@
-// The list view of another program, as a capture shows it: its rows on a 32-bit system, what its
-// accessible object tells on a 64-bit one.
+// The list view of another program, as a capture shows it: its rows on a 32-bit system, the
+// children of its accessible object on a 64-bit one.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ class ListViewTest : public GuiTest {
                          const std::string& expected) {
     const cross::ListFixture fixture(bits, "place=40,40,400,300 listview=" + set);
     const Control list(fixture["listview"], "the list view");
-    // What its accessible object is called: read after the list.
+    // The name of its accessible object, which is read after the list.
     list.SetText("終");
     const Program program({.conf = conf});
     program.MoveWindowTo(460, 20, 600, 700);
@@ -74,6 +74,16 @@ TEST_F(ListView64BitSystemTest, TheItemsOfItsAccessibleObjectAreListed) {
   program.StartCapture();
   pointer::MoveTo(fixture.Control().Center());
   EXPECT_TRUE(program.BottomPane().TextBecomes("行1\r\n行2\r\n行3\r\n"));
+}
+
+TEST_F(ListView64BitSystemTest, NamesOfItemsAreQuotedBetweenCommas) {
+  const accessible::FixtureProcess fixture("place=40,40,300,200 commas");
+  const Program program({.conf = "listview col = 1\n"});
+  program.MoveWindowTo(460, 20, 600, 700);
+  program.StartCapture();
+  pointer::MoveTo(fixture.Control().Center());
+  EXPECT_TRUE(
+      program.BottomPane().TextBecomes("林檎,蜜柑\r\n\"赤,橙\"\r\n\"\"\"果物\"\"\"\r\n\r\n"));
 }
 
 // Those of Wine have an object without children.

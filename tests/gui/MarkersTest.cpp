@@ -90,7 +90,7 @@ TEST_F(MarkersTest, SurroundTheReadPointAndFollowThePointer) {
     EXPECT_TRUE(SurroundPoint(program, center));
     EXPECT_TRUE(ShowsRedCorners(center));
     EXPECT_EQ(WindowFromPoint(center), fixture[kind].Handle());
-    // What is read is the window there, not the one under the pointer, and never a marker.
+    // The window at the read point is read, not the one under the pointer, and never a marker.
     EXPECT_TRUE(program[ui::txthWnd].TextBecomes(fixture[kind].HandleText()));
   }
   program.StopCapture();
@@ -130,7 +130,7 @@ TEST_F(MarkersTest, AreNotClippedAtTheScreensEdges) {
     pointer::MoveTo(corner);
     EXPECT_TRUE(SurroundPoint(program, corner)) << corner.x << "," << corner.y;
   }
-  // What lies on the screen is painted: of the marker right below the upper left corner, all.
+  // The part on the screen is painted: the whole marker right below the upper left corner.
   pointer::MoveTo({0, 0});
   EXPECT_TRUE(WaitFor("the marker in the corner is red", [](std::string&) {
     return Picture::Of({2, 2, 4, 4}).Count(kRed) == 4;
@@ -154,6 +154,38 @@ TEST_F(MarkersTest, GoWithinASecondWhenShiftIsSwitchedOff) {
   EXPECT_TRUE(MarkersShow(program, 4));
 }
 
+TEST_F(MarkersTest, ComeBackAboveAnotherTopmostWindowWithinASecond) {
+  const Fixture fixture("title=t blank");
+  const HWND other = fixture["main"].Handle();
+  const Program program({.conf = "shift = 1\nshiftx = 25\nshifty = -8\ndisp top = 0\n"});
+  program.StartCapture();
+  const POINT center = fixture["blank"].Center();
+  pointer::MoveTo({center.x - 25, center.y + 8});
+  ASSERT_TRUE(SurroundPoint(program, center));
+  ASSERT_TRUE(ShowsRedCorners(center));
+  const auto isAbove = [&](int index) {
+    for (HWND w = GetWindow(Marker(program, index), GW_HWNDNEXT); w != nullptr;
+         w = GetWindow(w, GW_HWNDNEXT)) {
+      if (w == other) return true;
+    }
+    return false;
+  };
+  const auto countAbove = [&] {
+    int count = 0;
+    for (int i = 0; i < 4; ++i) count += isAbove(i) ? 1 : 0;
+    return count;
+  };
+  // Again when the markers were shown at that moment.
+  ASSERT_TRUE(WaitFor("the window is above the markers", [&](std::string&) {
+    SetWindowPos(other, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    return countAbove() == 0;
+  }));
+  EXPECT_TRUE(TextBecomes(
+      "the number of markers above the window", "4", [&] { return std::to_string(countAbove()); },
+      Milliseconds(1500)));
+  EXPECT_TRUE(ShowsRedCorners(center));
+}
+
 TEST_F(MarkersTest, LeaveAnOpenMenuAndTheForegroundAlone) {
   const WineProgram notepad("notepad.exe", "", "Notepad");
   notepad.MoveTo(100, 100, 500, 400);
@@ -162,7 +194,7 @@ TEST_F(MarkersTest, LeaveAnOpenMenuAndTheForegroundAlone) {
                                  "form bottom = 900\n"});
   program.StartCapture();
   const RECT at = notepad.Window().Rectangle();
-  // The menu bar stands above the inner area.
+  // The menu bar is above the inner area.
   POINT corner = {};
   ClientToScreen(notepad.Window().Handle(), &corner);
   pointer::Click({corner.x + 15, corner.y - GetSystemMetrics(SM_CYMENU) / 2});
@@ -182,7 +214,7 @@ TEST_F(MarkersTest, LeaveAnOpenMenuAndTheForegroundAlone) {
   EXPECT_TRUE(Stays(
       "the menu stays open and the program in front",
       [&](std::string& seen) {
-        // A program with an open menu may report late, and as news, where the pointer was before.
+        // A program with an open menu may report an earlier position of the pointer late.
         POINT now = {};
         GetCursorPos(&now);
         if (now.x != below.x || now.y != below.y) pointer::MoveTo(below);

@@ -1,4 +1,4 @@
-// The package as users meet it: unpacked somewhere, used, its settings kept or not.
+// The package as users have it: unpacked somewhere, used, with its settings kept or not.
 #include <windows.h>
 
 #include <shlwapi.h>
@@ -35,7 +35,7 @@ std::set<std::string> NamesIn(const std::filesystem::path& folder) {
 
 class PackageTest : public GuiTest {
  protected:
-  // Reads two windows and changes a setting, as anybody does who tries the program.
+  // Reads two windows and changes a setting, as every new user does.
   static void Use(const Program& program) {
     const Fixture fixture("title=t static=名札 edit=文");
     program.StartCapture();
@@ -74,7 +74,7 @@ TEST_F(PackageTest, WorksInAFolderWithBlanksAndJapaneseCharacters) {
   EXPECT_FALSE(OpenSettings(again)[ui::chkTreeViewIndent].IsChecked());
 }
 
-// Windows looks for a program to start beside the one that starts it first.
+// Windows searches a program to start first in the folder of the one that starts it.
 TEST_F(PackageTest, HelpLinkOpensThePageBesideTheProgram) {
   const Program program;
   std::filesystem::copy_file(CommandRecorderFile(), program.Folder() / "explorer.exe");
@@ -84,7 +84,7 @@ TEST_F(PackageTest, HelpLinkOpensThePageBesideTheProgram) {
     std::ifstream in(program.Folder() / "command.txt");
     return std::getline(in, line) && !in.eof();
   }));
-  // One word: a blank in it would cut it short.
+  // One word, because a blank would end it.
   std::string explorer;
   std::string address;
   std::string rest;
@@ -98,8 +98,8 @@ TEST_F(PackageTest, HelpLinkOpensThePageBesideTheProgram) {
   EXPECT_TRUE(std::filesystem::exists(page));
 }
 
-// A folder in the file's place refuses what a read-only medium refuses, reading and writing, and
-// with the same error. Permissions would not do: whoever may do everything may write anyway.
+// A folder in the file's place rejects reading and writing like a read-only medium, with the same
+// error. Permissions would not work: an administrator may write anyway.
 TEST_F(PackageTest, WorksWhereItsSettingsCannotBeKept) {
   const std::filesystem::path folder = FreshFolder();
   const std::filesystem::path conf = folder / "Conf.txt";

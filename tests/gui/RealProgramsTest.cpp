@@ -1,4 +1,4 @@
-// Captures over programs that nobody here wrote.
+// Captures over programs that come with Wine.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -28,7 +28,7 @@ namespace {
 
 class RealProgramsTest : public GuiTest {
  protected:
-  // Moves the pointer there and waits until the boxes tell what the system finds at that point.
+  // Moves the pointer there and waits until the boxes show what the system finds at that point.
   static void ExpectReport(const Program& program, POINT point, const Control& target) {
     pointer::MoveTo(point);
     ASSERT_EQ(Control(WindowFromPoint(point), "").ClassName(), target.ClassName());
@@ -44,8 +44,8 @@ class RealProgramsTest : public GuiTest {
     EXPECT_TRUE(program.BottomPane().TextBecomes(bottom));
   }
 
-  // What the bottom pane shows of it. On a 64-bit system that is what the accessible object of a
-  // list view tells, and Wine's tells nothing.
+  // What the bottom pane shows of it. On a 64-bit system these are the children of a list view's
+  // accessible object, and Wine's has none.
   static std::string ItemsOf(const Control& list) {
     const std::string kind = cross::KindOfClass(list.ClassName());
     if (kind == "listview" && cross::SystemHas64Bits()) return {};
@@ -75,7 +75,7 @@ TEST_F(RealProgramsTest, NotepadWithAJapaneseText) {
   ASSERT_TRUE(edit.TextBecomes(text));
   ExpectReport(program, edit.Center(), edit);
   EXPECT_TRUE(program.TopPane().TextBecomes(text));
-  SaveScreenshot("notepad");
+  SaveScreenshotWhenPainted("notepad");
 
   ExpectReport(program, CaptionOf(notepad.Window()), notepad.Window());
   EXPECT_TRUE(program.TopPane().TextBecomes(notepad.Window().Text()));
@@ -93,7 +93,7 @@ TEST_F(RealProgramsTest, RegistryEditor) {
   const Program program;
   program.StartCapture();
   const Control list = regedit.Inside("SysListView32");
-  ASSERT_TRUE(WaitFor("the values stand in the list", [&](std::string&) {
+  ASSERT_TRUE(WaitFor("the list shows the values", [&](std::string&) {
     return SendMessageW(list.Handle(), LVM_GETITEMCOUNT, 0, 0) == 3;
   }));
   const RECT values = list.Rectangle();
@@ -110,7 +110,7 @@ TEST_F(RealProgramsTest, RegistryEditor) {
   ExpectReport(program, CaptionOf(regedit.Window()), regedit.Window());
   EXPECT_TRUE(program.TopPane().TextBecomes(regedit.Window().Text()));
   EXPECT_NE(regedit.Window().Text(), "");
-  SaveScreenshot("regedit");
+  SaveScreenshotWhenPainted("regedit");
 }
 
 TEST_F(RealProgramsTest, WineConfiguration) {
@@ -139,7 +139,7 @@ TEST_F(RealProgramsTest, WineConfiguration) {
     ++parts;
   }
   EXPECT_GE(parts, 3);
-  SaveScreenshot("winecfg");
+  SaveScreenshotWhenPainted("winecfg");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The settings dialog worked with the keyboard, and the keys that its boxes take.
+// The settings dialog used with the keyboard, and the keys that its boxes accept.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -37,31 +37,6 @@ TEST_F(SettingDialogKeysTest, AutoStopBoxTakesDigitsOnly) {
       WaitFor("the boxes go", [&](std::string&) { return !dialog[ui::chkChime].IsVisible(); }));
   ASSERT_EQ(program.CloseAndWait(), 0U);
   EXPECT_EQ(ValueOf(program.ConfLines(), "auto stop time"), "0");
-}
-
-TEST_F(SettingDialogKeysTest, ChildCountTakesNoKeysButItsListDoes) {
-  Program program({.conf = "setting no = 2\n"});
-  const DialogWindow dialog = OpenSettings(program);
-  const Control list = dialog[ui::cmbChildMaxCount];
-  BoxOf(list).Click();
-  ASSERT_TRUE(FocusMovesTo(dialog, ui::cmbChildMaxCount));
-  for (const int key : {int{'5'}, VK_BACK, VK_DELETE, VK_DOWN, VK_UP, VK_END}) {
-    keys::Stroke({static_cast<WORD>(key)}, Milliseconds(20));
-  }
-  EXPECT_TRUE(list.TextStays("  10", Milliseconds(200)));
-  // By keyboard: open the list, go down, take it.
-  keys::Stroke({VK_MENU, VK_DOWN}, Milliseconds(50));
-  ASSERT_TRUE(WaitFor("the list is open", [&](std::string&) {
-    return SendMessageW(list.Handle(), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
-  }));
-  keys::Stroke({VK_DOWN}, Milliseconds(20));
-  keys::Stroke({VK_RETURN}, Milliseconds(20));
-  EXPECT_TRUE(list.TextBecomes("  50"));
-  EXPECT_TRUE(WaitFor("the list is closed", [&](std::string&) {
-    return SendMessageW(list.Handle(), CB_GETDROPPEDSTATE, 0, 0) == FALSE;
-  }));
-  ASSERT_EQ(program.CloseAndWait(), 0U);
-  EXPECT_EQ(ValueOf(program.ConfLines(), "parent & children max"), "50");
 }
 
 TEST_F(SettingDialogKeysTest, ShiftBoxesTakeNumbersOnly) {
@@ -120,7 +95,11 @@ TEST_F(SettingDialogKeysTest, WorksByKeyboardAlone) {
   keys::Stroke({VK_SPACE}, Milliseconds(20));
   EXPECT_TRUE(
       WaitFor("the page is shown", [&](std::string&) { return dialog[ui::FrList2].IsVisible(); }));
-  keys::Stroke({VK_ESCAPE}, Milliseconds(20));
+  for (const int next : {ui::lblButton1, ui::lblButton0, ui::cmdClose}) {
+    keys::Stroke({VK_SHIFT, VK_TAB}, Milliseconds(20));
+    ASSERT_TRUE(FocusMovesTo(dialog, next));
+  }
+  keys::Stroke({VK_RETURN}, Milliseconds(20));
   EXPECT_TRUE(dialog.Closes());
   ASSERT_EQ(program.CloseAndWait(), 0U);
   EXPECT_EQ(ValueOf(program.ConfLines(), "clipboard"), "1");

@@ -1,4 +1,4 @@
-// The settings dialog of the running program, worked with pointer and keys.
+// The settings dialog of the running program, used with pointer and keys.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -8,6 +8,7 @@
 #include "SettingsText.h"
 #include "driver/GuiTest.h"
 #include "driver/Pointer.h"
+#include "driver/Resolution.h"
 #include "driver/Screen.h"
 #include "driver/Target.h"
 #include "driver/Windows.h"
@@ -195,6 +196,22 @@ TEST_F(SettingDialogTest, CloseBoxForgetsThePlace) {
   EXPECT_EQ(dialog.Window().Rectangle().top, 50);
 }
 
+TEST_F(SettingDialogTest, PlaceIsStoredInTwipsOfTheResolution) {
+  const Resolution resolution(144);  // 10 twips to a pixel
+  Program program({.conf = "setting left = 1000\nsetting top = 500\n"});
+  const DialogWindow dialog = OpenSettings(program);
+  EXPECT_EQ(dialog.Window().Rectangle().left, 100);
+  EXPECT_EQ(dialog.Window().Rectangle().top, 50);
+  SetWindowPos(dialog.Window().Handle(), nullptr, 222, 111, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  ASSERT_TRUE(WaitFor("the dialog has moved",
+                      [&](std::string&) { return dialog.Window().Rectangle().left == 222; }));
+  dialog[ui::cmdClose].Click();
+  ASSERT_TRUE(dialog.Closes());
+  ASSERT_EQ(program.CloseAndWait(), 0U);
+  EXPECT_EQ(ValueOf(program.ConfLines(), "setting left"), "2220");
+  EXPECT_EQ(ValueOf(program.ConfLines(), "setting top"), "1110");
+}
+
 TEST_F(SettingDialogTest, CloseButtonKeepsItsCorner) {
   const Program program;
   const DialogWindow dialog = OpenSettings(program);
@@ -237,7 +254,7 @@ TEST_F(SettingDialogTest, ChangeActsOnTheRunningCapture) {
   ASSERT_TRUE(program.TopPane().TextBecomes("文"));
   dialog[ui::OptAct2].PressButton();
   EXPECT_TRUE(program[ui::lblStatus].TextBecomes("ESCで停止\r\nCtrl で Select 1 Test"));
-  // The report is made anew although the pointer rests.
+  // The report is made again although the pointer rests.
   fixture["edit"].SetText("新しい文");
   dialog[ui::OptAct0].PressButton();
   EXPECT_TRUE(program.TopPane().TextBecomes("新しい文"));

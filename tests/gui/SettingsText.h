@@ -7,8 +7,8 @@
 
 namespace gui {
 
-// The value behind "key = " or "key= " in the lines of a written settings file; "(missing)" when
-// no line begins so.
+// The value after "key = " or "key= " in the lines of a written settings file; "(missing)" when no
+// line begins so.
 std::string ValueOf(const std::vector<std::string>& lines, std::string_view key);
 
 }  // namespace gui

@@ -94,6 +94,28 @@ TEST_F(SplitterTest, BarStopsAtTheLowerLimit) {
   });
 }
 
+TEST_F(SplitterTest, ReleaseBeyondALimitLeavesThePaneAtTheLimit) {
+  Program program({.conf = kConf});
+  const RECT inner = InnerArea(program.Window());
+  const LONG height = inner.bottom - inner.top;
+  const auto endsAt = [&](LONG expected) {
+    return WaitFor("the pane ends at the limit", [&](std::string& seen) {
+      const LONG top = TopInside(program, program[ui::imgSplitter]);
+      seen = std::to_string(top);
+      return std::abs(top - expected) <= 1 && !program[ui::picSplitter].IsVisible();
+    });
+  };
+  POINT grip = program[ui::imgSplitter].Center();
+  pointer::Drag(grip, {grip.x, inner.top + 5});
+  EXPECT_TRUE(endsAt(kLimit));
+  grip = program[ui::imgSplitter].Center();
+  pointer::Drag(grip, {grip.x, inner.bottom - 10});
+  EXPECT_TRUE(endsAt(height - kLimit));
+  const std::string paneHeight = std::to_string(program.TopPane().Size().cy * 15);
+  ASSERT_EQ(program.CloseAndWait(), 0U);
+  EXPECT_EQ(ValueOf(program.ConfLines(), "top height"), paneHeight);
+}
+
 TEST_F(SplitterTest, MovingOverTheGripWithoutPressingChangesNothing) {
   const Program program({.conf = kConf});
   const LONG before = program.TopPane().Size().cy;

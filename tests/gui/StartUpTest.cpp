@@ -1,10 +1,13 @@
-// The program as it stands right after its start.
+// The program right after its start.
 #include <windows.h>
 
 #include <tlhelp32.h>
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
+#include "SettingsText.h"
 #include "driver/GuiTest.h"
 #include "driver/Keys.h"
 #include "driver/Owners.h"
@@ -51,7 +54,7 @@ TEST_F(StartUpTest, EverythingThatUsersReadIsShown) {
   EXPECT_EQ(program[ui::cmdSetting].Text(), "設定");
   EXPECT_EQ(program[ui::lblAutoStop].Text(), "");
   EXPECT_FALSE(program[ui::picSplitter].IsVisible());
-  SaveScreenshot("start");
+  SaveScreenshotWhenPainted("start");
 }
 
 TEST_F(StartUpTest, NothingButTheMainWindowIsShown) {
@@ -78,6 +81,24 @@ TEST_F(StartUpTest, StoredPlaceIsTakenAsItStands) {
   EXPECT_EQ(at.top, 900);
   EXPECT_EQ(at.right, 333);
   EXPECT_EQ(at.bottom, 1444);
+}
+
+// The program passes the stored place on unchanged. The system's call moves a window that would be
+// entirely off the screen, on Windows as here.
+TEST_F(StartUpTest, StoredPlaceOffTheScreenIsMovedOnToItByTheSystem) {
+  const RECT screen = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+  for (const auto& [left, top] : {std::pair{3000, 2500}, std::pair{-900, -700}}) {
+    Program program({.conf = "form left = " + std::to_string(left) + "\nform top = " +
+                             std::to_string(top) + "\nform right = " + std::to_string(left + 500) +
+                             "\nform bottom = " + std::to_string(top + 400) + "\n"});
+    const RECT at = program.Window().Rectangle();
+    EXPECT_TRUE(Overlap(at, screen)) << left;
+    EXPECT_EQ(at.right - at.left, 500);
+    EXPECT_EQ(at.bottom - at.top, 400);
+    ASSERT_EQ(program.CloseAndWait(), 0U);
+    EXPECT_EQ(ValueOf(program.ConfLines(), "form left"), std::to_string(at.left));
+    EXPECT_EQ(ValueOf(program.ConfLines(), "form bottom"), std::to_string(at.bottom));
+  }
 }
 
 TEST_F(StartUpTest, WorksOnOneThread) {

@@ -1,4 +1,4 @@
-// The small switches that sit on the main window itself.
+// The small switches on the main window itself.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -70,7 +70,7 @@ TEST_F(TogglesTest, PositionModeInOtherCaseBecomesScreen) {
   EXPECT_EQ(ValueOf(program.ConfLines(), "mous pos"), "screen");
 }
 
-TEST_F(TogglesTest, TipOfThePositionTellsItsMode) {
+TEST_F(TogglesTest, TipOfThePositionNamesItsMode) {
   const Program program;
   program[ui::lblMousePos].DoubleClick();
   EXPECT_TRUE(
@@ -82,7 +82,29 @@ TEST_F(TogglesTest, TipOfThePositionTellsItsMode) {
                  "マウスポインタ（スクリーン）座標  ダブルクリックでクライアント座標に切り替え"));
 }
 
-TEST_F(TogglesTest, TipOfTheButtonTellsWhatItDoes) {
+TEST_F(TogglesTest, WrapBoxSendsTheReportsOfARunningCaptureToTheOtherPanes) {
+  const Fixture fixture("title=t static=名札 leaf=葉 button=釦");
+  const Program program({.conf = "turn back = 0\n"});
+  program.StartCapture();
+  const auto expectReport = [&](const char* kind, const char* text, int member) {
+    pointer::MoveTo(fixture[kind].Center());
+    EXPECT_TRUE(program[ui::txtWinTextT0 + member].TextBecomes(text)) << kind;
+    EXPECT_TRUE(program[ui::txtWinTextB0 + member].TextBecomes(text)) << kind;
+    ASSERT_TRUE(program[ui::lblMsg].TextBecomes("")) << kind;
+    EXPECT_NE(program[ui::txtWinTextT1 - member].Text(), text) << kind;
+    EXPECT_NE(program[ui::txtWinTextB1 - member].Text(), text) << kind;
+  };
+  expectReport("static", "名札", 0);
+  program[ui::chkTurnBack].PressButton();
+  ASSERT_TRUE(program[ui::txtWinTextT1].TextBecomes("名札"));
+  expectReport("leaf", "葉", 1);
+  program[ui::chkTurnBack].PressButton();
+  ASSERT_TRUE(program[ui::txtWinTextT0].TextBecomes("葉"));
+  expectReport("button", "釦", 0);
+  EXPECT_TRUE(program.IsCapturing());
+}
+
+TEST_F(TogglesTest, TipOfTheButtonNamesItsAction) {
   const Program program;
   program.StartCapture();
   EXPECT_TRUE(TipBecomes(program, program[ui::cmdGo], "取得停止"));

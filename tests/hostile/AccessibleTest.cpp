@@ -1,4 +1,4 @@
-// Accessible objects that tell lies about themselves, their parents and their children.
+// Accessible objects that answer wrongly about themselves, their parents and their children.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -7,6 +7,7 @@
 #include <deque>
 #include <string>
 
+#include "../ReadItems.h"
 #include "../accessible/AccessibleNode.h"
 #include "Cases.h"
 #include "accessibility/AccessibleListing.h"
@@ -82,7 +83,7 @@ class HostileTree {
   std::deque<Node> nodes_;
 };
 
-// A capture that goes on after a while, and counts the messages shown.
+// A capture that moves to another window after a while, and counts the message boxes.
 class Surroundings {
  public:
   explicit Surroundings(Random& random)
@@ -123,9 +124,10 @@ class Surroundings {
   };
 };
 
-// Whole lines, but for the mark behind what was interrupted.
+// Whole lines, except for the mark after an interruption.
 void ExpectLines(const std::wstring& text) {
-  EXPECT_TRUE(text.empty() || text.ends_with(L"\r\n") || text.ends_with(platform::kInterrupted));
+  EXPECT_TRUE(text.empty() || text.ends_with(L"\r\n") ||
+              text.ends_with(platform::kInterruptedMark));
 }
 
 void Find(Node& object, LONG child, MyAccessible::ObjectAndChild& found) {
@@ -152,7 +154,7 @@ TEST(HostileAccessibleTest, Reports) {
     const std::wstring text =
         MyAccessible::ReportOf(record, window, found, around.settings, around.session);
     EXPECT_TRUE(text.starts_with(L"MSAA(MS Active Accessibility)情報\r\n"));
-    // Its last words may stand without a line end.
+    // Its last line may have no line end.
     EXPECT_NE(text, L"");
     EXPECT_LE(around.boxes, 3);
     EXPECT_LE(around.yields, 301);
@@ -163,8 +165,7 @@ TEST(HostileAccessibleTest, ListsOfChildren) {
   ForEachCase(kCases, [](Random& random) {
     HostileTree tree(random);
     Surroundings around(random);
-    const std::wstring text =
-        MyAccessible::ListChildrenOf(&tree.Any(), around.settings, around.session);
+    const std::wstring text = ChildrenOf(&tree.Any(), around.settings, around.session);
     ExpectLines(text);
     EXPECT_EQ(around.boxes, 0);
     EXPECT_LE(around.yields, 301);
@@ -177,7 +178,7 @@ TEST(HostileAccessibleTest, Trees) {
     Surroundings around(random);
     MyAccessible::ObjectAndChild found;
     Find(tree.Any(), AnyChild(random), found);
-    const std::wstring text = MyAccessible::ListTreeAround(found, around.settings, around.session);
+    const std::wstring text = TreeAround(found, around.settings, around.session);
     ExpectLines(text);
     EXPECT_EQ(around.boxes, 0);
     EXPECT_LE(around.yields, 301);

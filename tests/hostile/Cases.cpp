@@ -36,7 +36,7 @@ LONG CALLBACK TellCase(EXCEPTION_POINTERS* exception) {
   return EXCEPTION_CONTINUE_SEARCH;
 }
 
-// What text functions look for, and what they might stumble over.
+// What text functions search for, and what may confuse them.
 constexpr std::wstring_view kPieces[] = {
     L"\r\n",       L"\n",     L"\r",     L"\t",     L" ",    L"\"", L"\"\"",   L",",
     L"=",          L"\u3000", L"\\",     L"表",     L"ｶﾞ",   L"é",  L"\xD83D", L"\xDE00",

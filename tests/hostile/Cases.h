@@ -1,7 +1,7 @@
-// Thousands of cases that follow from a seed: the case number and the seed make a case again.
+// Thousands of cases that a seed determines: the case number and the seed repeat a case.
 //
 // The seed is the same in every run unless the environment variable VELMORA_SEED gives another;
-// VELMORA_CASE runs one case alone. A failure tells both, also when the case ends the process.
+// VELMORA_CASE runs one case alone. A failure shows both, also when the case ends the process.
 #pragma once
 
 #include <cstdint>
@@ -46,7 +46,7 @@ class Random {
 // Runs check for the cases 0 to count - 1, until one fails.
 void ForEachCase(int count, const std::function<void(Random&)>& check);
 
-// Makes a process that ends in the middle of a case say so before.
+// Makes a process that ends in the middle of a case report it before.
 void TellCaseOnCrash();
 
 }  // namespace hostile

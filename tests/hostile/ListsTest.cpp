@@ -1,4 +1,4 @@
-// Controls that answer anything to the readers of their items.
+// Controls that give random answers to the readers of their items.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -8,6 +8,7 @@
 #include <cstring>
 #include <string>
 
+#include "../ReadItems.h"
 #include "../unit/FakeTarget.h"
 #include "Cases.h"
 #include "extract/ListBoxItems.h"
@@ -22,7 +23,7 @@ namespace {
 constexpr int kCases = 2000;
 constexpr std::size_t kBlock = 4096;  // what FakeMemory gives for each block
 
-// Bytes that can be written from there on, as the system sees it.
+// How many bytes can be written from there on, as the system says.
 std::size_t Writable(const void* address) {
   MEMORY_BASIC_INFORMATION region = {};
   if (VirtualQuery(address, &region, sizeof region) == 0 || region.Protect != PAGE_READWRITE) {
@@ -49,7 +50,8 @@ class HostileControl {
     target.messages.answer = [this](UINT message, WPARAM wParam, LPARAM lParam) {
       return Answer(message, wParam, lParam);
     };
-    // A control that claims two thousand million items is read until the pointer goes on.
+    // A control that claims two thousand million items is read until the pointer moves to another
+    // window.
     leavesAfter_ = random.Below(60);
     target.capture.onYield = [this] {
       if (--leavesAfter_ > 0) return;
@@ -63,10 +65,10 @@ class HostileControl {
   }
 
   // The rows of a text that a reader gave: whole lines without a zero character, and a mark only
-  // behind the last when the reading was interrupted.
+  // after the last when the reading was interrupted.
   void ExpectLines(std::wstring text) const {
-    if (text.ends_with(platform::kInterrupted)) {
-      text.resize(text.size() - platform::kInterrupted.size());
+    if (text.ends_with(platform::kInterruptedMark)) {
+      text.resize(text.size() - platform::kInterruptedMark.size());
       EXPECT_NE(target.capture.target, target.hwnd);
     }
     EXPECT_EQ(text.find(L'\0'), std::wstring::npos);
@@ -100,28 +102,27 @@ class HostileControl {
 };
 
 // One of the readers that give a line for each item.
-struct ItemReader {
+struct NamedReader {
   const char* name;
-  std::wstring (*read)(HWND hwnd, const platform::ReadSession& session, std::wstring& method,
-                       const extract::ControlAccess& access);
+  ItemReader read;
 };
 
-class HostileItemsTest : public testing::TestWithParam<ItemReader> {};
+class HostileItemsTest : public testing::TestWithParam<NamedReader> {};
 
 TEST_P(HostileItemsTest, GiveWholeLines) {
   ForEachCase(kCases, [](Random& random) {
     HostileControl control(random);
     FakeTarget& target = control.target;
-    control.ExpectLines(
-        GetParam().read(target.hwnd, target.capture.Session(), target.method, target.Access()));
+    control.ExpectLines(ReadText(GetParam().read, target.hwnd, target.capture.Session(),
+                                 target.method, target.Access()));
   });
 }
 
 INSTANTIATE_TEST_SUITE_P(Readers, HostileItemsTest,
-                         testing::Values(ItemReader{"ListBoxes", extract::MyGetListBoxItem},
-                                         ItemReader{"ComboBoxes", extract::MyGetComboBoxItem},
-                                         ItemReader{"Toolbars", extract::GetToolbarItem},
-                                         ItemReader{"TabControls", extract::GetTabControlItem}),
+                         testing::Values(NamedReader{"ListBoxes", extract::MyGetListBoxItem},
+                                         NamedReader{"ComboBoxes", extract::MyGetComboBoxItem},
+                                         NamedReader{"Toolbars", extract::GetToolbarItem},
+                                         NamedReader{"TabControls", extract::GetTabControlItem}),
                          [](const auto& row) { return std::string(row.param.name); });
 
 TEST(HostileListsTest, ListViews) {
@@ -129,14 +130,18 @@ TEST(HostileListsTest, ListViews) {
     HostileControl control(random);
     FakeTarget& target = control.target;
     const std::wstring accessible = random.TextWithoutNul(50) + L"\r\n";
-    const std::wstring text = extract::GetListViewItem(
-        target.hwnd, target.capture.Session(), target.method, random.Number(),
-        [&](HWND) { return accessible; }, target.Access());
+    const std::wstring text = TextOf(
+        [&](platform::ItemSink& sink) {
+          return extract::GetListViewItem(
+              target.hwnd, target.capture.Session(), sink, random.Number(),
+              [&](platform::ItemSink& children) { children.Text(accessible); }, target.Access());
+        },
+        target.method);
     if (target.method == L"Accessible") {
       EXPECT_EQ(text, accessible);
       return;
     }
-    // When the target is lost in the middle of a row, what it gave of that row stays.
+    // When the target is lost in the middle of a row, the cells read so far stay.
     const std::size_t whole = text.rfind(L"\r\n");
     const bool lost = target.method == L"(untouched)";
     control.ExpectLines(lost ? text.substr(0, whole == std::wstring::npos ? 0 : whole + 2) : text);

@@ -1,4 +1,4 @@
-// Texts of every kind through the text functions, each against a second way to the same result.
+// Texts of every kind through the text functions, each compared with a second computation.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -12,16 +12,17 @@
 #include "accessibility/AccessibleListing.h"
 #include "accessibility/RoleStateWords.h"
 #include "capture/CaptureWords.h"
-#include "capture/ControlCategory.h"
 #include "capture/OutputDelivery.h"
-#include "capture/WindowInformation.h"
 #include "extract/CsvText.h"
 #include "extract/StringUtilities.h"
 #include "extract/TextCount.h"
 #include "platform/ErrorReport.h"
+#include "platform/HandleText.h"
 #include "platform/Rounding.h"
 #include "platform/TextCodec.h"
 #include "platform/Trim.h"
+#include "report/ControlCategory.h"
+#include "report/WindowInformation.h"
 #include "settings/MyKeyboard.h"
 #include "settings/MySub_HotKey.h"
 
@@ -103,7 +104,7 @@ TEST(HostileTextsTest, UpToNulIsAPrefixWithoutNul) {
   });
 }
 
-// Without the checks for what CutDblQuot refuses.
+// Without the checks for what CutDblQuot rejects.
 std::wstring WithoutQuotes(std::wstring text) {
   text = platform::Trimmed(text);
   const bool quoted = text.size() > 1 && text.front() == L'"' && text.back() == L'"';
@@ -198,7 +199,7 @@ TEST(HostileTextsTest, ASpreadsheetGetsTheCellsBack) {
   });
 }
 
-TEST(HostileTextsTest, CutTextsBeginAsTheWholeOnes) {
+TEST(HostileTextsTest, CutTextsStartLikeTheWholeOnes) {
   ForEachCase(kCases, [](Random& random) {
     std::wstring text = random.Text(kLongest);
     if (random.Chance(5)) text.resize(static_cast<std::size_t>(random.Below(200000)), L'長');
@@ -220,7 +221,7 @@ TEST(HostileTextsTest, NamesAreCutToTheirLength) {
   });
 }
 
-TEST(HostileTextsTest, CodePageAndBackComesToRest) {
+TEST(HostileTextsTest, ConvertingToTheCodePageAndBackIsStable) {
   ForEachCase(kCases, [](Random& random) {
     const std::wstring text = random.Text(kLongest);
     const std::string bytes = platform::ToAnsi(text);
@@ -301,7 +302,7 @@ TEST(HostileTextsTest, StatesAreTheSumOfTheirBits) {
     for (std::uint32_t bit = 1; bit != 0; bit <<= 1U) {
       if ((state & bit) != 0) words += MyAccessible::StateWords(bit);
     }
-    // Their order may be another one.
+    // Their order may differ.
     const std::wstring together = MyAccessible::StateWords(state);
     EXPECT_TRUE(std::is_permutation(words.begin(), words.end(), together.begin(), together.end()));
     EXPECT_LT(MyAccessible::RoleWord(random.Text(30)).size(), 40U);
@@ -312,22 +313,22 @@ TEST(HostileTextsTest, StatesAreTheSumOfTheirBits) {
 TEST(HostileTextsTest, WindowFactsOfAnyKindMakeLines) {
   ForEachCase(kCases, [](Random& random) {
     const auto facts = [&random] {
-      capture::WindowFacts made;
+      report::WindowFacts made;
       made.hwnd = reinterpret_cast<HWND>(UINT_PTR{random.Bits()});
       made.className = random.Text(100);
       made.title = random.Text(300);
       made.place = {random.Number(), random.Number(), random.Number(), random.Number()};
       return made;
     };
-    capture::WindowInformation information{facts(), facts(), {}, {}};
+    report::WindowInformation information{facts(), facts(), {}, {}};
     for (int i = random.Below(4); i > 0; --i) information.ancestors.push_back(facts());
     for (int i = random.Below(4); i > 0; --i) information.children.push_back(facts());
     const std::wstring text =
-        capture::WindowInformationText(information, random.Chance(50) ? L"hex" : random.Text(5));
+        report::WindowInformationText(information, random.Chance(50) ? L"hex" : random.Text(5));
     EXPECT_TRUE(text.ends_with(L"\r\n"));
     EXPECT_NE(text.find(information.window.title), std::wstring::npos);
-    (void)capture::CategoryOf(random.Text(300));
-    EXPECT_NE(capture::ShownHandle(information.window.hwnd, random.Text(4)), L"");
+    (void)report::CategoryOf(random.Text(300));
+    EXPECT_NE(platform::ShownHandle(information.window.hwnd, random.Text(4)), L"");
   });
 }
 

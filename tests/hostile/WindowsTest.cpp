@@ -1,4 +1,4 @@
-// Windows that answer anything when they are asked for their texts.
+// Windows that give random answers to requests for their texts.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -9,11 +9,11 @@
 #include <string>
 #include <vector>
 
+#include "../ReadItems.h"
 #include "Cases.h"
-#include "capture/StatusText.h"
-#include "capture/WindowInformation.h"
 #include "extract/ControlText.h"
 #include "extract/Win32API_Window.h"
+#include "report/WindowInformation.h"
 
 namespace hostile {
 namespace {
@@ -22,20 +22,20 @@ constexpr int kCases = 2000;
 constexpr WPARAM kAskedByUs = 4096;
 constexpr wchar_t kClass[] = L"HostileTooltip";
 
-// Answers as the case at hand has it; at rest as any window.
+// Answers as the current case says; between cases like any window.
 Random* answering = nullptr;
 
 LRESULT CALLBACK HostileProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (answering == nullptr) return DefWindowProcW(window, message, wParam, lParam);
   switch (message) {
     case WM_GETTEXT: {
-      // As much as there is room for, with or without an end.
+      // As much as fits, with or without a terminating zero.
       const std::wstring text = answering->Text(6000);
       const std::size_t count =
           std::min<std::size_t>(wParam, text.size() + (answering->Chance(80) ? 1 : 0));
       std::wmemcpy(reinterpret_cast<wchar_t*>(lParam), text.c_str(), count);
       if (wParam == kAskedByUs) return answering->Number();
-      // The system's own accessible object believes the length in Wine, and reads behind its text.
+      // In Wine the system's accessible object trusts the length, and reads beyond its text.
       return static_cast<LRESULT>(wcsnlen(text.c_str(), wParam - 1));
     }
     case WM_GETTEXTLENGTH:
@@ -81,7 +81,8 @@ class HostileWindowsTest : public testing::Test {
 TEST_F(HostileWindowsTest, TextsOfControls) {
   ForEachAnswer([this](Random&) {
     std::wstring method = L"(untouched)";
-    const std::wstring text = extract::MyGetEditItem(window_, method);
+    const std::wstring text = TextOf(
+        [this](platform::ItemSink& sink) { return extract::MyGetEditItem(window_, sink); }, method);
     EXPECT_LT(text.size(), 4097U);
     EXPECT_EQ(text.find(L'\0'), std::wstring::npos);
     EXPECT_EQ(method, text.empty() ? L"(untouched)" : L"WM_GETTEXT");
@@ -92,7 +93,8 @@ TEST_F(HostileWindowsTest, TextsOfControls) {
 TEST_F(HostileWindowsTest, TextsOfChildren) {
   ForEachAnswer([this](Random&) {
     std::wstring method;
-    const std::wstring text = extract::GetChildText(window_, method);
+    const std::wstring text = TextOf(
+        [this](platform::ItemSink& sink) { return extract::GetChildText(window_, sink); }, method);
     EXPECT_EQ(method, L"Accessible");
     EXPECT_LT(text.size(), 4U * 4100);
     EXPECT_EQ(text.find(L'\0'), std::wstring::npos);
@@ -109,45 +111,10 @@ TEST_F(HostileWindowsTest, TextsOfToolTips) {
 
 TEST_F(HostileWindowsTest, CaptionsAndFacts) {
   ForEachAnswer([this](Random&) {
-    const capture::WindowFacts facts = capture::ReadWindowFacts(window_);
+    const report::WindowFacts facts = report::ReadWindowFacts(window_);
     EXPECT_EQ(facts.className, kClass);
     EXPECT_LT(facts.title.size(), 2U * 9192);
     EXPECT_EQ(facts.title.find(L'\0'), std::wstring::npos);
-  });
-}
-
-// Windows around a status bar in no order at all.
-class HostileStatusWindows : public capture::StatusWindows {
- public:
-  explicit HostileStatusWindows(Random& random) : random_(random) {}
-
-  HWND TopParent(HWND) override { return AnyWindow(); }
-  HWND Foreground() override { return AnyWindow(); }
-  std::vector<HWND> Descendants(HWND root, std::wstring_view) override {
-    EXPECT_NE(root, nullptr);
-    std::vector<HWND> found;
-    for (int i = random_.Below(4); i > 0; --i) found.push_back(AnyWindow());
-    return found;
-  }
-  std::wstring Title(HWND) override { return random_.Text(3); }
-  std::wstring Text(HWND hwnd) override {
-    EXPECT_NE(hwnd, nullptr);
-    return given = random_.Text(300);
-  }
-
-  std::wstring given;
-
- private:
-  HWND AnyWindow() { return reinterpret_cast<HWND>(UINT_PTR{random_.Bits() % 4}); }
-
-  Random& random_;
-};
-
-TEST_F(HostileWindowsTest, StatusBars) {
-  ForEachAnswer([](Random& random) {
-    HostileStatusWindows windows(random);
-    const std::wstring className = random.Chance(20) ? L"#32768" : random.Text(20);
-    EXPECT_EQ(capture::FindStatusText(windows, nullptr, className, random.Text(3)), windows.given);
   });
 }
 

@@ -1,4 +1,4 @@
-// What a soak chooses from: controls to press, numbers to type, lines to write.
+// The choices of a soak: controls to press, numbers to type, lines to write.
 #pragma once
 
 #include <initializer_list>
@@ -16,8 +16,8 @@ inline constexpr int kClicked[] = {ui::txthWnd,      ui::txtWin0,      ui::txtWi
 inline constexpr int kDoubleClicked[] = {ui::lblMousePos,  ui::lblMsg,       ui::txthWnd,
                                          ui::txtWinTextT0, ui::txtWinTextB1, ui::txtWin0};
 
-// Page after page, each after the button that shows it. Not among them: closing by itself, which
-// would end the run.
+// Page after page, each after the button that shows it. Without the automatic close, which would
+// end the run.
 inline constexpr int kPressedSettings[] = {
     // clang-format off
     ui::lblButton0,

@@ -103,7 +103,7 @@ void Hands::DoWithTarget(const Action& action) {
                                         PlaceOnDesktop(action.a));
       break;
     case Do::kClose:
-      if (!target->IsWell()) throw std::runtime_error(target->Name() + " is not well");
+      if (!target->IsWell()) throw std::runtime_error(target->Name() + " does not run or answer");
       target->Close();
       target.reset();
       break;
@@ -130,7 +130,7 @@ void Hands::DoInMainWindow(const Action& action) {
       break;
     case Do::kClick:
     case Do::kDoubleClick: {
-      // Behind a dialog or outside a small window there is nothing to click.
+      // Under a dialog or outside a small window there is nothing to click.
       const gui::Control control = program_[action.a];
       if (WindowFromPoint(control.Center()) != control.Handle()) break;
       const bool twice = action.what == Do::kDoubleClick;
@@ -235,7 +235,7 @@ void Hands::CloseDialog(const char* className, int button) {
       [&] { return !FindDialog(className).has_value(); });
 }
 
-// A message box in front of the window takes a press away, so it is pressed again.
+// A message box in front of the window may take a press, so it is pressed again.
 void Hands::WaitUntil(const std::string& what, const std::function<void()>& press,
                       const std::function<bool()>& done) {
   for (int tries = 0; tries < 4; ++tries) {
@@ -290,7 +290,7 @@ void Hands::StopCapture() {
       [&] { return !program_.IsCapturing(); });
 }
 
-// Those that would read elsewhere, or end the capture too soon.
+// Those that would read at another point, or end the capture too soon.
 void Hands::UncheckAll() {
   const auto uncheck = [this](const gui::Control& window, std::initializer_list<int> boxes) {
     for (const int id : boxes) {

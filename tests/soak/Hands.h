@@ -1,4 +1,4 @@
-// Carries out the actions of a plan on the running program and its desktop.
+// Executes the actions of a plan on the running program and its desktop.
 #pragma once
 
 #include <windows.h>
@@ -19,28 +19,28 @@ class Hands {
  public:
   explicit Hands(const gui::Program& program);
 
-  // Throws std::runtime_error when an action cannot be carried out that always can be: a program
-  // does not start, a dialog does not open or close.
+  // Throws std::runtime_error when an action fails that must succeed: a program does not start, a
+  // dialog does not open or close.
   void Do(const Action& action);
 
-  // Closes the program's message boxes; how many there were.
+  // Closes the program's message boxes; returns how many there were.
   int CloseMessages() const { return program_.CloseMessages(); }
 
   // Throws std::runtime_error unless the program runs and answers. It may be in a call into a
-  // program that hangs, which comes back only when that wakes: then all are woken.
+  // program that hangs, which returns only when that program continues: then all are continued.
   void RequireProgram();
-  // The programs that are open and not well, by name; empty: all are.
+  // The names of the open programs that do not run or answer; empty when all do.
   std::string Unwell() const;
   void CloseAll();
 
-  // Brings the program to the state in which what it holds can be compared: no capture, windows
-  // and switches as at first, the last report over a small known window. Throws
-  // std::runtime_error when that report is not right.
+  // Brings the program to a state in which its holdings can be compared: no capture, windows and
+  // switches as at first, the last report over a small known window. Throws std::runtime_error when
+  // that report is not right.
   void Settle();
 
-  // Has the system load for the program what it loads once and a tour may not meet: the longest
-  // name on this desktop is read, since edit boxes keep the room of the longest text that they
-  // ever showed, and a menu opens, as Shift+F10 has it when a window takes the focus.
+  // Makes the system load for the program what it loads only once and a tour may not need: the
+  // longest name on this desktop is read, because edit boxes keep the memory of their longest text,
+  // and a menu opens, as Shift+F10 does when a window takes the focus.
   void WarmUp();
 
  private:

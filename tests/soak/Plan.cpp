@@ -155,7 +155,8 @@ std::optional<Action> Plan::UseSettings() {
   return Action{Do::kPressInSettings, OneOf(kPressedSettings)};
 }
 
-// A call into a program that hangs comes back only after that wakes, and the dialog reacts then.
+// A call into a program that hangs returns only when that program continues, and the dialog reacts
+// then.
 std::optional<Action> Plan::Dialogs() {
   if (const std::optional<Action> wake = Wake(); wake.has_value()) return wake;
   switch (dialog_) {
@@ -254,7 +255,7 @@ std::vector<Action> Plan::Tour() {
       add({Do::kRest, 150});
       add({Do::kPress, ui::chkDetail});
     }
-    // Long lines stand in the panes both wrapped and with a bar to scroll along them.
+    // Long lines are shown in the panes both wrapped and with a scroll bar.
     add({Do::kPress, ui::chkTurnBack});
   }
 
@@ -300,7 +301,7 @@ std::vector<Action> Plan::Tour() {
   for (int i = 0; i < kPlaces; ++i) {
     if (slots_[i].kind.has_value()) add({Do::kClose, i});
   }
-  // Once more, now that nothing else is going on: a busy program misses where the pointer was.
+  // Once more, now that nothing else happens: a busy program may miss a position of the pointer.
   for (const Action& move : OverTheFrame()) add(move);
   return tour;
 }

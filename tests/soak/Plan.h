@@ -1,5 +1,5 @@
-// What a soak does: an endless sequence of actions that follows from its seed alone, so that a
-// failing run can be repeated. Nothing here looks at a clock, a window or an outcome.
+// What a soak does: an endless sequence of actions that only its seed determines, so that a failing
+// run can be repeated. Nothing here uses a clock, a window or a result.
 #pragma once
 
 #include <cstddef>
@@ -33,15 +33,15 @@ class Plan {
   // Each kind of program and each kind of action at least once, then everything closed.
   std::vector<Action> Tour();
 
-  // One program opened and pointed at, for a short life of the program under test.
+  // One program opened and pointed at, for a short run of the program under test.
   std::vector<Action> Glance();
 
   // The next random action. Each fits the ones before: a dialog's control is used while the dialog
   // is open, a program is closed that was opened.
   Action Next();
 
-  // The actions that bring the desktop to rest: dialogs closed, programs woken. Those that are
-  // still open stay.
+  // The actions that calm the desktop: dialogs are closed, programs continued. Open programs stay
+  // open.
   std::vector<Action> Rest();
 
  private:
@@ -78,7 +78,7 @@ class Plan {
   std::optional<Action> Dialogs();
   std::optional<Action> UseSettings();
 
-  // Keeps in mind what an action leaves behind.
+  // Notes the state after an action.
   Action Noted(const Action& action);
 
   std::mt19937 random_;

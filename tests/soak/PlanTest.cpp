@@ -1,4 +1,4 @@
-// The plan follows from its seed alone, and its actions fit together.
+// Only the seed determines the plan, and its actions fit together.
 #include <gtest/gtest.h>
 
 #include <set>

@@ -1,4 +1,4 @@
-// Counted reports of the running program on programs that lie, hang, vanish and die.
+// Counted reports of the running program on programs that answer wrongly, hang, vanish and die.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -24,10 +24,10 @@ namespace {
 
 constexpr int kReports = 500;
 constexpr gui::Milliseconds kMoment{100};
-// By Wine, of each program with objects that dies in the middle of a call.
+// Kept by Wine for each program with objects that dies in the middle of a call.
 constexpr int kKeptEvents = 3;
 
-// Stay, whatever they are asked.
+// Stay open, whatever is read.
 constexpr TargetKind kLiars[] = {
     {"list box, understates", Source::kLists, "behave=understate listbox=long", false},
     {"list view, changes", Source::kLists, "behave=change listview=many:3", false},
@@ -65,7 +65,7 @@ class ReportsTest : public gui::GuiTest {
     ++reports_;
   }
 
-  // Everybody lies some times, one hangs for a moment, and each of the others ends.
+  // Every program is read several times, one hangs for a moment, and each of the others ends.
   void Round() {
     constexpr int kTimes = 4;
     for (int time = 0; time < kTimes; ++time) {
@@ -76,7 +76,7 @@ class ReportsTest : public gui::GuiTest {
       gui::Last(kMoment);
       liars_[0]->Wake();
     });
-    // They stand at one place, where the pointer must not have rested before.
+    // They are at one place, where the pointer must not have rested before.
     for (std::size_t i = 0; i < std::size(kMortals); ++i) {
       const TargetKind& kind = kMortals[i];
       ReportAt(i + 1);

@@ -2,8 +2,8 @@
 //
 //   soak_tests.exe [--seconds=60] [--seed=NUMBER]
 //
-// The seed decides what is done, the time only how much of it. A failure tells the seed, and which
-// actions came last.
+// The seed decides what is done, the time only how much of it. A failure shows the seed and the
+// last actions.
 #include <windows.h>
 
 #include <gtest/gtest.h>
@@ -44,7 +44,8 @@ class OverflowFile {
   ~OverflowFile() {
     std::error_code ignored;
     const std::filesystem::path desktop = capture::DesktopFolder();
-    std::filesystem::remove(desktop / capture::kOverflowFile, ignored);
+    std::filesystem::remove(desktop / capture::kTopOverflowFile, ignored);
+    std::filesystem::remove(desktop / capture::kBottomOverflowFile, ignored);
   }
 };
 
@@ -62,7 +63,8 @@ class SoakTest : public gui::GuiTest {
     hands.RequireProgram();
   }
 
-  // A life with settings of its own, ended politely, now and then in the middle of a capture.
+  // One run of the program with random settings, closed at its end, sometimes in the middle of a
+  // capture.
   void ShortLife(Plan& plan) {
     gui::Program program({.conf = plan.Settings(true), .folder = folder_});
     {
@@ -107,7 +109,7 @@ class SoakTest : public gui::GuiTest {
     EXPECT_EQ(program.CloseAndWait(), 0U) << Story();
   }
 
-  // What Wine keeps of programs whose accessible objects were in use when they ended: an event for
+  // What Wine keeps for programs whose accessible objects were in use when they ended: an event for
   // each object, and the connection to the program.
   gui::Allowance Kept() const {
     constexpr int kObjects = 150;
@@ -141,7 +143,7 @@ class SoakTest : public gui::GuiTest {
   int servers_ = 0;  // programs with accessible objects of their own, opened so far
 };
 
-TEST_F(SoakTest, LeavesProgramAndDesktopWell) {
+TEST_F(SoakTest, ProgramAndDesktopStillWorkAfterwards) {
   Plan plan(options.seed);
   try {
     for (int life = 0; life < 2 + options.seconds / 60; ++life) ShortLife(plan);

@@ -86,7 +86,7 @@ bool Target::IsWell() const {
   if (SendMessageTimeoutW(window_, WM_NULL, 0, 0, SMTO_NORMAL, kToAnswer, &answer) != 0) {
     return true;
   }
-  // It may be just about to end.
+  // It may be ending at this moment.
   return kind_->mayDie && process_->WaitForExit(kToClose).has_value();
 }
 

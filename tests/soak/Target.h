@@ -17,15 +17,15 @@ namespace soak {
 
 class Target {
  public:
-  // Starts a program of that kind and waits until its window stands at that place. Throws
-  // std::runtime_error when that does not come about.
+  // Starts a program of that kind and waits until its window is at that place. Throws
+  // std::runtime_error when that does not happen.
   Target(const TargetKind& kind, const Place& place);
 
   // It runs and its window answers; it may have ended only if it is of a kind that does.
   bool IsWell() const;
   std::string Name() const { return kind_->name; }
 
-  // Asks it to close; by force when it does not follow.
+  // Closes it; by force when it does not end.
   void Close();
   void Kill();
   // Stops all its threads, in the middle of whatever they do.

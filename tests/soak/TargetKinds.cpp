@@ -3,7 +3,7 @@
 namespace soak {
 namespace {
 
-// Not among them: winefile, which in Wine numbers windows of other programs anew when it ends.
+// Without winefile, which in Wine renumbers windows of other programs when it ends.
 constexpr TargetKind kKinds[] = {
     {"notepad", Source::kSystem, "notepad.exe", false},
     {"regedit", Source::kSystem, "regedit.exe", false},

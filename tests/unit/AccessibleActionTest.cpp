@@ -69,6 +69,12 @@ TEST_F(AccessibleActionTest, WithoutAnObjectAMessageSaysSoEachTime) {
   }
 }
 
+TEST_F(AccessibleActionTest, AtAPointWithoutAnObjectAMessageSaysSo) {
+  for (const std::int32_t mode : {1, 2, 3}) EXPECT_TRUE(AccActionAt(mode, {-30'000, -30'000}));
+  ASSERT_EQ(boxes_.size(), 3U);
+  for (const Box& box : boxes_) EXPECT_EQ(box.text, L"MSAAオブジェクトではありません");
+}
+
 TEST_F(AccessibleActionTest, FailuresAreReportedUnderTheActionsName) {
   object_.failures["accDoDefaultAction"] = E_NOTIMPL;
   object_.failures["accSelect"] = E_ACCESSDENIED;
@@ -77,12 +83,12 @@ TEST_F(AccessibleActionTest, FailuresAreReportedUnderTheActionsName) {
   EXPECT_EQ(boxes_[0].title, L"AccAction - accDoDefaultAction");
   EXPECT_EQ(boxes_[1].title, L"AccAction - AccSelect 1");
   EXPECT_EQ(boxes_[2].title, L"AccAction - AccSelect 2");
-  // Number, blank, description, and the object that it was about.
+  // Number, blank, description, and the name of the object.
   EXPECT_TRUE(boxes_[0].text.starts_with(std::to_wstring(E_NOTIMPL) + L" ")) << boxes_[0].text;
   EXPECT_TRUE(boxes_[0].text.ends_with(L"\r\n押す")) << boxes_[0].text;
 }
 
-TEST_F(AccessibleActionTest, SuccessThatIsNoneIsNotReported) {
+TEST_F(AccessibleActionTest, OtherSuccessCodesAreNotReported) {
   object_.failures["accDoDefaultAction"] = S_FALSE;
   EXPECT_FALSE(Act(1, 0));
   EXPECT_TRUE(boxes_.empty());

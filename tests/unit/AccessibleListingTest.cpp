@@ -6,8 +6,10 @@
 #include <deque>
 #include <string>
 
+#include "../ReadItems.h"
 #include "../accessible/AccessibleNode.h"
 #include "FakeSession.h"
+#include "accessibility/AccessibleRows.h"
 
 namespace MyAccessible {
 namespace {
@@ -26,7 +28,7 @@ class AccessibleListingTest : public testing::Test {
     settings_.treeviewIndent = 1;
   }
 
-  std::wstring Children(Node& root) { return ListChildrenOf(&root, settings_, session_.Session()); }
+  std::wstring Children(Node& root) { return ChildrenOf(&root, settings_, session_.Session()); }
 
   std::wstring Tree(Node& root, LONG item) { return Tree(root, item, session_.Session()); }
   std::wstring Tree(Node& root, LONG item, const platform::ReadSession& session) {
@@ -36,7 +38,7 @@ class AccessibleListingTest : public testing::Test {
     VARIANT* const child = start.child.Receive();
     child->vt = VT_I4;
     child->lVal = item;
-    return ListTreeAround(start, settings_, session);
+    return TreeAround(start, settings_, session);
   }
 
   settings::Settings settings_;
@@ -79,6 +81,19 @@ TEST_F(AccessibleListingTest, ChildrenAreFollowedByTheirOwn) {
   EXPECT_EQ(inner.References(), 1U);
 }
 
+TEST_F(AccessibleListingTest, TheCountIsShownBeforeTheReaderYields) {
+  Node root({});
+  for (const wchar_t* const name : {L"一", L"二", L"三"}) AddItem(root, name, L"0");
+  session_.onYield = [this] {
+    EXPECT_EQ(static_cast<int>(session_.progress.size()), session_.yields);
+  };
+  Children(root);
+  Tree(root, 2);
+  const platform::ReadSession session = session_.Session();
+  ChildRows(&root, Self(), settings_, session);
+  EXPECT_EQ(session_.yields, 9);
+}
+
 TEST_F(AccessibleListingTest, NoChildrenGiveNoText) {
   Node root({.name = L"根"});
   EXPECT_EQ(Children(root), L"");
@@ -96,7 +111,26 @@ TEST_F(AccessibleListingTest, ChildrenWithoutANameGetNoLine) {
   EXPECT_EQ(Children(root), L"中\r\n");
 }
 
-TEST_F(AccessibleListingTest, TheListIsCutBehindTheLargestNumber) {
+// Windows of unknown kinds are then read by the next method.
+TEST_F(AccessibleListingTest, WithoutASingleNameItIsEmptyHoweverManyChildren) {
+  Node root({.name = L"根"});
+  for (const int children : {1, 999, 1000, 1001, 5000}) {
+    Node crowd({});
+    for (int i = 0; i < children; ++i) crowd.AddElement({});
+    EXPECT_EQ(Children(crowd), L"") << children;
+  }
+}
+
+TEST_F(AccessibleListingTest, AThousandNamelessChildrenEndAListWithNames) {
+  Node root({});
+  root.AddElement({.name = L"一"});
+  for (int i = 0; i < 1000; ++i) root.AddElement({});
+  root.AddElement({.name = L"終"});
+  settings_.parentChildrenMax = 5000;
+  EXPECT_EQ(Children(root), std::wstring(L"一\r\n") + kOmitted);
+}
+
+TEST_F(AccessibleListingTest, TheListIsCutAfterTheLargestNumber) {
   Node root({});
   for (int i = 0; i < 3; ++i) root.AddElement({.name = L"子"});
   settings_.parentChildrenMax = 3;
@@ -141,7 +175,7 @@ TEST_F(AccessibleListingTest, ATargetThatMovedBeforeInterruptsAtOnce) {
   for (int i = 0; i < 5; ++i) AddItem(root, L"子", L"0");
   const platform::ReadSession session = session_.Session();
   session_.GoElsewhere();
-  EXPECT_EQ(ListChildrenOf(&root, settings_, session), L"・・・中断・・・");
+  EXPECT_EQ(ChildrenOf(&root, settings_, session), L"・・・中断・・・");
   EXPECT_EQ(Tree(root, 1, session), L"・・・中断・・・");
   EXPECT_EQ(session_.yields, 0);
 }
@@ -156,13 +190,13 @@ TEST_F(AccessibleListingTest, TheEndOfTheCaptureInterruptsAtAnyDepth) {
   EXPECT_EQ(Children(root), L"組\r\n子\r\n子\r\n・・・中断・・・");
 }
 
-TEST_F(AccessibleListingTest, ClaimsAreNotBelieved) {
+TEST_F(AccessibleListingTest, AClaimedCountIsNotTrusted) {
   Node root({.name = L"嘘"});
   root.AddElement({.name = L"一"});
   root.claimedChildren = 2'000'000'000;
   root.enumerates = true;
   EXPECT_EQ(Children(root), L"一\r\n");
-  // Without an enumeration every number is a child, until the many without a name are enough.
+  // Without an enumeration every number is a child, until too many have no name.
   root.enumerates = false;
   EXPECT_EQ(Children(root), std::wstring(L"一\r\n") + kOmitted);
   EXPECT_LT(session_.yields, 2'000);
@@ -173,13 +207,13 @@ TEST_F(AccessibleListingTest, EndlessChildrenEnd) {
   root.answersEveryChild = true;
   root.claimedChildren = 2'000'000'000;
   EXPECT_EQ(Lines(Children(root)), 11U);
-  // Those without a name are given up on in the end.
+  // Children without a name end the listing.
   root.Own().name.clear();
-  EXPECT_EQ(Children(root), kOmitted);
+  EXPECT_EQ(Children(root), L"");
   EXPECT_LT(session_.yields, 2'000);
 }
 
-TEST_F(AccessibleListingTest, AnObjectThatHoldsItselfIsLeftAtSomeDepth) {
+TEST_F(AccessibleListingTest, AnObjectThatContainsItselfEndsAtSomeDepth) {
   Node root({.name = L"輪"});
   root.AddObject(root);
   settings_.parentChildrenMax = 1'000'000;
@@ -219,7 +253,7 @@ TEST_F(AccessibleListingTest, TreesAreListedFromTheFirstItemOnIndentedByLevel) {
   EXPECT_EQ(tree.References(), 1U);
 }
 
-TEST_F(AccessibleListingTest, LongNamesInTreesAreCutBehindTheirIndent) {
+TEST_F(AccessibleListingTest, LongNamesInTreesAreCutAfterTheirIndent) {
   Node tree({});
   AddItem(tree, std::wstring(50, L'全').c_str(), L"0");
   AddItem(tree, std::wstring(51, L'長').c_str(), L"1");
@@ -244,12 +278,12 @@ TEST_F(AccessibleListingTest, TreesOfObjectsAreWalkedToo) {
   items[1].AddRef();
   *start.object.GetAddressOf() = &items[1];
   *start.child.Receive() = Self();
-  EXPECT_EQ(ListTreeAround(start, settings_, session_.Session()), L"一\r\n二\r\n三\r\n");
+  EXPECT_EQ(TreeAround(start, settings_, session_.Session()), L"一\r\n二\r\n三\r\n");
   EXPECT_EQ(items[0].References(), 1U);
   EXPECT_EQ(items[2].References(), 1U);
 }
 
-TEST_F(AccessibleListingTest, ObjectsAndSimpleElementsMayStandSideBySide) {
+TEST_F(AccessibleListingTest, ObjectsAndSimpleElementsMayBeMixed) {
   Node tree({});
   Node item({.name = L"物"});
   AddItem(tree, L"一", L"0");
@@ -268,7 +302,7 @@ TEST_F(AccessibleListingTest, ALongTreeIsReadWithTheSameCallsForEveryItem) {
   Node tree({});
   for (int i = 0; i < 5000; ++i) AddItem(tree, L"項", L"0");
   EXPECT_EQ(Lines(Tree(tree, 1)), 5000U);
-  // Name, value and navigation for each; the first level and the step back are asked for once.
+  // Name, value and navigation for each; the first level and the step back are read once.
   EXPECT_EQ(tree.calls.size(), 3U * 5000 + 2);
 }
 
@@ -295,7 +329,7 @@ TEST_F(AccessibleListingTest, TheTreeItselfIsNoNeighbourOfItsItems) {
   EXPECT_EQ(Tree(tree, 2), L"木\r\n木\r\n木\r\n・・・中断・・・");
 }
 
-TEST_F(AccessibleListingTest, LevelsThatAreNoneDoNotIndent) {
+TEST_F(AccessibleListingTest, InvalidLevelsDoNotIndent) {
   Node tree({});
   AddItem(tree, L"一", L"深い");
   AddItem(tree, L"二", L"-2147483648");
@@ -304,7 +338,7 @@ TEST_F(AccessibleListingTest, LevelsThatAreNoneDoNotIndent) {
 }
 
 TEST_F(AccessibleListingTest, WithoutAnObjectThereIsAnError) {
-  EXPECT_EQ(ListTree(nullptr, {-30'000, -30'000}, settings_, session_.Session()),
+  EXPECT_EQ(TreeAt(nullptr, {-30'000, -30'000}, settings_, session_.Session()),
             L"% 取得エラー！ %");
 }
 

@@ -1,94 +1,18 @@
-#include "accessibility/AccessibleReport.h"
-
+// The report on an accessible object.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <limits>
-#include <string>
-#include <vector>
 
-#include "../accessible/AccessibleNode.h"
-#include "FakeSession.h"
-#include "accessibility/AccessibleRows.h"
-#include "platform/ErrorReport.h"
+#include "AccessibleReportFixture.h"
 
 namespace MyAccessible {
 namespace {
 
-using accessible::Node;
 using testing::ElementsAre;
 
-#define LINE39 L"---------------------------------------\r\n"
-#define COLUMNS                                                       \
-  L" accName\taccRole:Text\t( Location )\tChildCount=n\taccValue\r\n" \
-  L" ----------------------------------------------------------\r\n"
-
-// A list in a group in a window, with two simple elements and an object in it.
-class AccessibleReportTest : public testing::Test {
- protected:
-  AccessibleReportTest()
-      : before_(
-            platform::SetMessageBox([this](const std::wstring& text, const std::wstring& title) {
-              boxes_.push_back(title + L"|" + text);
-            })) {
-    settings_.parentChildren = 1;
-    settings_.parentChildrenMax = 10;
-    settings_.accnameMax = 50;
-    window_.AddObject(group_);
-    group_.AddObject(list_);
-    list_.AddElement({.name = L"林檎",
-                      .value = L"赤",
-                      .role = ROLE_SYSTEM_LISTITEM,
-                      .state = 0x300006,
-                      .place = {10, 20, 100, 16}});
-    list_.AddObject(button_);
-    list_.AddElement({.name = L"蜜柑",
-                      .value = L"橙",
-                      .role = ROLE_SYSTEM_LISTITEM,
-                      .state = 0x200000,
-                      .place = {10, 52, 100, 16},
-                      .description = L"果物",
-                      .defaultAction = L"選ぶ"});
-  }
-  ~AccessibleReportTest() override {
-    platform::SetMessageBox(before_);
-    for (const Node* const node : {&window_, &group_, &list_, &button_}) {
-      EXPECT_EQ(node->References(), 1U);
-    }
-  }
-
-  std::wstring Report(Node& object, LONG child, const ReportedWindow& window = {}) {
-    ObjectAndChild found;
-    object.AddRef();
-    *found.object.GetAddressOf() = &object;
-    found.child.Receive()->vt = VT_I4;
-    *found.child.Receive() = platform::UniqueVariant(child).Get();
-    for (Node* const node : {&window_, &group_, &list_, &button_}) node->calls.clear();
-    return ReportOf(record_, window, found, settings_, session_.Session());
-  }
-
-  Node window_{
-      {.name = L"窓の題", .role = ROLE_SYSTEM_WINDOW, .state = 0, .place = {0, 0, 640, 480}}};
-  Node group_{{.name = L"組", .role = ROLE_SYSTEM_GROUPING, .place = {5, 15, 200, 100}}};
-  Node list_{{.name = L"果物の一覧",
-              .value = L"二つ",
-              .role = ROLE_SYSTEM_LIST,
-              .state = 0x100000,
-              .place = {10, 20, 100, 80},
-              .description = L"好きな果物",
-              .defaultAction = L"開く",
-              .keyboardShortcut = L"Alt+F"}};
-  Node button_{{.name = L"追加",
-                .value = L"加",
-                .role = ROLE_SYSTEM_PUSHBUTTON,
-                .place = {10, 36, 100, 16}}};
-  settings::Settings settings_;
-  FakeSession session_;
-  AccessibleFacts record_;
-  std::vector<std::wstring> boxes_;
-  platform::MessageBoxFunction before_;
-};
+class AccessibleReportTest : public AccessibleReportFixture {};
 
 constexpr const wchar_t* kListsAncestors =
     L" \"窓の題\"\t9:ウィンドウ\t(0,0,640,480)\tChildCount=1\t\"窓の題\"\r\n"
@@ -123,7 +47,7 @@ TEST_F(AccessibleReportTest, AnObjectWithAncestorsAndChildren) {
 }
 
 TEST_F(AccessibleReportTest, ASimpleElement) {
-  // The last column asks every ancestor for the child found: the list has it, the others do not.
+  // The last column reads the found child from every ancestor: the list has it, the others do not.
   EXPECT_EQ(
       Report(list_, 3),
       L"MSAA(MS Active Accessibility)情報\r\n" LINE39
@@ -279,7 +203,7 @@ TEST_F(AccessibleReportTest, AnEdgeBeyond32BitsEndsTheReport) {
     ASSERT_EQ(boxes_.size(), 1U);
     EXPECT_TRUE(boxes_[0].starts_with(L"GetAccessibleMemberFromPoint|534 ")) << boxes_[0];
     EXPECT_GT(boxes_[0].size(), std::wstring(L"GetAccessibleMemberFromPoint|534 ").size());
-    // What is not told is not read.
+    // What is not shown is not read.
     EXPECT_EQ(std::ranges::count(button_.calls, "accParent"), 1);
   }
   button_.Own().place = {kMost - 1, kLeast, 1, -1};
@@ -288,11 +212,6 @@ TEST_F(AccessibleReportTest, AnEdgeBeyond32BitsEndsTheReport) {
   EXPECT_NE(Report(button_, 0).find(L"(l:2147483646,t:-2147483648,r:2147483647,b:-2147483648)"),
             std::wstring::npos);
   EXPECT_THAT(boxes_, ElementsAre());
-}
-
-TEST_F(AccessibleReportTest, RowsHoldEdgesBeyond32Bits) {
-  group_.Own().place = {2147483647, 0, 2147483647, 1};
-  EXPECT_NE(Report(list_, 0).find(L"(2147483647,0,4294967294,1)"), std::wstring::npos);
 }
 
 TEST_F(AccessibleReportTest, TheRecordIsFilledInItsOrder) {
@@ -304,7 +223,7 @@ TEST_F(AccessibleReportTest, TheRecordIsFilledInItsOrder) {
       "accChildCount"};
   ASSERT_GE(list_.calls.size(), filled.size());
   EXPECT_EQ(std::vector<std::string>(list_.calls.begin(), list_.calls.begin() + 13), filled);
-  // The parent is asked for its name without a child.
+  // The name of the parent is read without a child.
   EXPECT_EQ(group_.calls.front(), "accName -");
   EXPECT_EQ(record_.role, L"33");
   EXPECT_EQ(record_.roleText, L"リスト");
@@ -315,77 +234,10 @@ TEST_F(AccessibleReportTest, TheRecordIsFilledInItsOrder) {
   EXPECT_EQ(record_.parentRole, L"20:グループ化");
   EXPECT_EQ(record_.childCount, L"3");
   EXPECT_EQ(record_.location.width, 100);
-  // Neither focus nor parent are told.
+  // Neither focus nor parent are shown.
   list_.hasFocus = true;
   Report(list_, 0);
   EXPECT_EQ(record_.focus, L"1");
-}
-
-TEST_F(AccessibleReportTest, AncestorsAreAskedForTwice) {
-  settings_.parentChildren = 0;
-  Report(list_, 0);
-  EXPECT_EQ(std::ranges::count(window_.calls, "accLocation 0"), 2);
-  EXPECT_EQ(std::ranges::count(list_.calls, "accParent"), 2);
-}
-
-TEST_F(AccessibleReportTest, OnlyMembersOfTheAncestorsBelowTheLargestNumber) {
-  // Parents that go round in a circle.
-  window_.parent = &list_;
-  const auto rows = [this] {
-    const platform::ReadSession session = session_.Session();
-    return AncestorRows(&list_, Self(), settings_, ListingProgress(session));
-  };
-  settings_.parentChildrenMax = 10;
-  EXPECT_EQ(std::ranges::count(rows(), L'\n'), 11);
-  settings_.parentChildrenMax = 1'000'000'000;
-  EXPECT_EQ(std::ranges::count(rows(), L'\n'), 1000);
-  settings_.parentChildrenMax = 0;
-  EXPECT_EQ(rows(), L"");
-}
-
-TEST_F(AccessibleReportTest, AncestorsAreListedUntilTheCaptureMovesOn) {
-  window_.parent = &list_;
-  settings_.parentChildren = 0;
-  settings_.parentChildrenMax = 1000;
-  session_.moveOnAfter = 2;
-  list_.calls.clear();
-  const std::wstring text = Report(list_, 0);
-  const std::size_t first = text.find(L"Ancestors  : top → bottom\r\n" COLUMNS);
-  ASSERT_NE(first, std::wstring::npos);
-  EXPECT_TRUE(
-      text.substr(first).starts_with(
-          L"Ancestors  : top → bottom\r\n" COLUMNS L"・・・中断・・・\r\n"
-          L"Children   : 3 max=1000\r\n"))
-      << text;
-  // No more than the two before it, although the listing is made twice.
-  EXPECT_EQ(session_.yields, 2);
-}
-
-TEST_F(AccessibleReportTest, ACaptureThatEndsGetsAllAncestors) {
-  settings_.parentChildren = 0;
-  const std::wstring whole = Report(list_, 0);
-  session_.onYield = [this] {
-    session_.running = false;
-    session_.target = nullptr;  // as when no capture runs
-  };
-  EXPECT_EQ(Report(list_, 0), whole);
-}
-
-TEST_F(AccessibleReportTest, OfAWindowThatWasLeftBeforeNothingIsListed) {
-  session_.onYield = [] { FAIL() << "something was listed"; };
-  const platform::ReadSession session = session_.Session();
-  session_.GoElsewhere();
-  EXPECT_EQ(AncestorRows(&list_, Self(), settings_, ListingProgress(session)),
-            L"・・・中断・・・\r\n");
-  EXPECT_EQ(ChildRows(&list_, Self(), settings_, ListingProgress(session)), L"・・・中断・・・");
-}
-
-TEST_F(AccessibleReportTest, NamesInRowsAreCutButForTheLastColumn) {
-  group_.Own().name = std::wstring(51, L'長');
-  EXPECT_NE(
-      Report(list_, 0).find(L" \"" + std::wstring(50, L'長') + L".......\"\t20:グループ化\t(5," +
-                            L"15,205,115)\tChildCount=1\t\"" + std::wstring(51, L'長') + L"\"\r\n"),
-      std::wstring::npos);
 }
 
 TEST_F(AccessibleReportTest, FailingMembersAreEmpty) {
@@ -417,7 +269,7 @@ TEST_F(AccessibleReportTest, FailingMembersAreEmpty) {
   EXPECT_THAT(boxes_, ElementsAre());
 }
 
-TEST_F(AccessibleReportTest, EveryStateBitIsTold) {
+TEST_F(AccessibleReportTest, EveryStateBitIsReported) {
   button_.Own().state = static_cast<LONG>(0xFFFFFFFF);
   EXPECT_NE(Report(button_, 0).find(L"State      : xFFFFFFFF 利用不可。チェックされています。"),
             std::wstring::npos);
@@ -430,23 +282,6 @@ TEST_F(AccessibleReportTest, HugeNamesAreReportedWhole) {
   const std::wstring text = Report(button_, 0);
   EXPECT_EQ(text.find(name),
             std::wstring(L"MSAA(MS Active Accessibility)情報\r\n" LINE39 L"Name       : ").size());
-}
-
-TEST_F(AccessibleReportTest, AClaimOfTwoThousandMillionChildrenIsTold) {
-  list_.claimedChildren = 2'000'000'000;
-  list_.enumerates = true;
-  const std::wstring text = Report(list_, 0);
-  EXPECT_NE(text.find(L"Children   : 2000000000 max=10\r\n"), std::wstring::npos);
-  EXPECT_TRUE(text.ends_with(L"\"橙\"\r\n"));
-  list_.enumerates = false;
-  EXPECT_TRUE(
-      Report(list_, 0).ends_with(L" \"\"\t:\t(0,0,0,0)\tChildCount=0\t\"\"\r\n"
-                                 L"-- 以下省略 -- 個数変更：[設定]→[MSAA] …Child最大取得個数\r\n"));
-}
-
-TEST_F(AccessibleReportTest, AnotherTargetInterruptsTheChildren) {
-  session_.moveOnAfter = 1;
-  EXPECT_TRUE(Report(list_, 0).ends_with(L"ChildCount=0\t\"赤\"\r\n・・・中断・・・"));
 }
 
 TEST_F(AccessibleReportTest, WithoutAnObjectThereIsNoReport) {

@@ -51,6 +51,9 @@ TEST(DecideCountdownTest, NeedsToBeOnAndToHaveATime) {
   EXPECT_EQ(DecideCountdown(AutoStop(1, 0), 60'000).step, CountdownStep::Clear);
   EXPECT_EQ(DecideCountdown(AutoStop(1, -3), 60'000).step, CountdownStep::Clear);
   EXPECT_EQ(DecideCountdown(AutoStop(0, 0), 0).step, CountdownStep::Clear);
+  for (const std::int32_t neither : {2, -1}) {
+    EXPECT_EQ(DecideCountdown(AutoStop(neither, 5), 60'000).step, CountdownStep::Keep);
+  }
 }
 
 }  // namespace

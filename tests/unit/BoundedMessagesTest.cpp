@@ -29,7 +29,7 @@ TEST_F(BoundedMessagesTest, WaitTwoSecondsAtMostAndNotForAHungWindow) {
   EXPECT_THAT(fake_.calls, ElementsAre("send 7 500 0 0 2 2000"));
 }
 
-TEST_F(BoundedMessagesTest, ASilentThreadIsLeftAloneForAWhile) {
+TEST_F(BoundedMessagesTest, ASilentThreadGetsNoMessagesForAWhile) {
   Hang();
   EXPECT_EQ(fake_.messages.Send(Window(7), 500), 0U);
   Recover();
@@ -44,7 +44,25 @@ TEST_F(BoundedMessagesTest, ASilentThreadIsLeftAloneForAWhile) {
   EXPECT_EQ(fake_.messages.Send(Window(7), 500), 4711U);
 }
 
-TEST_F(BoundedMessagesTest, OtherThreadsAreAskedAllTheSame) {
+TEST_F(BoundedMessagesTest, AfterATimeOutAWindowIsTested) {
+  // A time-out for the first message only.
+  fake_.sendError = ERROR_TIMEOUT;
+  fake_.onSend = [this] {
+    if (fake_.calls.size() == 2) fake_.sendError = ERROR_SUCCESS;
+  };
+  EXPECT_EQ(fake_.messages.Send(Window(7), 500), 0U);
+  EXPECT_THAT(fake_.calls, ElementsAre("send 7 500 0 0 2 2000", "send 7 0 0 0 2 500"));
+  fake_.onSend = nullptr;
+  Recover();
+  EXPECT_TRUE(fake_.messages.Answers(Window(7)));
+  EXPECT_EQ(fake_.messages.Send(Window(8), 500), 4711U);  // of the same thread
+  // One report does not wait for it twice.
+  EXPECT_EQ(fake_.messages.Send(Window(7), 500), 0U);
+  fake_.now += 1000;
+  EXPECT_EQ(fake_.messages.Send(Window(7), 500), 4711U);
+}
+
+TEST_F(BoundedMessagesTest, OtherThreadsStillGetMessages) {
   Hang();
   fake_.messages.Send(Window(7), 500);
   Recover();
@@ -53,7 +71,7 @@ TEST_F(BoundedMessagesTest, OtherThreadsAreAskedAllTheSame) {
   EXPECT_TRUE(fake_.messages.Answers(Window(9)));
 }
 
-TEST_F(BoundedMessagesTest, TheWhileBeginsWhenTheWaitingEnds) {
+TEST_F(BoundedMessagesTest, ThatWhileBeginsAfterTheTimeOut) {
   Hang();
   fake_.onSend = [this] { fake_.now += 2000; };
   fake_.messages.Send(Window(7), 500);
@@ -63,7 +81,7 @@ TEST_F(BoundedMessagesTest, TheWhileBeginsWhenTheWaitingEnds) {
   EXPECT_EQ(fake_.messages.Send(Window(7), 500), 0U);
 }
 
-TEST_F(BoundedMessagesTest, OtherFailuresAreNoSilence) {
+TEST_F(BoundedMessagesTest, OtherFailuresDoNotCountAsSilence) {
   for (const DWORD error : {5UL, 1400UL}) {  // access denied, invalid window handle
     fake_.sendError = error;
     EXPECT_EQ(fake_.messages.Send(Window(7), 500), 0U);

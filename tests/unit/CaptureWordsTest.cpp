@@ -49,32 +49,23 @@ TEST(CommandLineTest, DebugIsItsFirstWord) {
   EXPECT_FALSE(AsksForDebugMode(L"no_start debug"));
 }
 
-TEST(CommandLineTest, NoStartIsAllOfIt) {
-  EXPECT_TRUE(ForbidsAutoStart(L"no_start"));
-  EXPECT_TRUE(ForbidsAutoStart(L"  no_start "));
-  EXPECT_FALSE(ForbidsAutoStart(L""));
-  EXPECT_FALSE(ForbidsAutoStart(L"x no_start"));
-  EXPECT_FALSE(ForbidsAutoStart(L"no_start x"));
-  EXPECT_FALSE(ForbidsAutoStart(L"NO_START"));
+TEST(StartsByItselfTest, WhenAskedForAndNotForbidden) {
+  const auto starts = [](std::int32_t autoStart, const wchar_t* commandLine) {
+    settings::Settings settings;
+    settings.autoStart = autoStart;
+    return StartsByItself(settings, commandLine);
+  };
+  EXPECT_TRUE(starts(1, L""));
+  EXPECT_FALSE(starts(0, L""));
+  EXPECT_FALSE(starts(2, L""));
+  EXPECT_FALSE(starts(1, L"no_start"));
+  EXPECT_FALSE(starts(1, L"  no_start "));
+  for (const wchar_t* const other : {L"x no_start", L"no_start x", L"NO_START", L"debug"}) {
+    EXPECT_TRUE(starts(1, other));
+  }
 }
 
-TEST(HandleTest, IsSignedDecimalOrUpperCaseHexadecimal) {
-  EXPECT_EQ(DecimalHandle(WindowNumber(1312948)), L"1312948");
-  EXPECT_EQ(HexHandle(WindowNumber(1312948)), L"1408B4");
-  EXPECT_EQ(DecimalHandle(nullptr), L"0");
-  EXPECT_EQ(HexHandle(nullptr), L"0");
-  EXPECT_EQ(DecimalHandle(WindowNumber(-2)), L"-2");
-  EXPECT_EQ(HexHandle(WindowNumber(-2)), L"FFFFFFFE");
-}
-
-TEST(HandleTest, IsShownAsTheSettingSays) {
-  EXPECT_EQ(ShownHandle(WindowNumber(255), L"dec"), L"255");
-  EXPECT_EQ(ShownHandle(WindowNumber(255), L"hex"), L"FF");
-  EXPECT_EQ(ShownHandle(WindowNumber(255), L"Hex"), L"255");
-  EXPECT_EQ(ShownHandle(WindowNumber(255), L""), L"255");
-}
-
-TEST(VersionTextTest, PutsTheRevisionBehindTheMinorNumber) {
+TEST(VersionTextTest, PutsTheRevisionDirectlyAfterTheMinorNumber) {
   EXPECT_EQ(ui::VersionTextOf(1, 2, 3), L"1.23");
   EXPECT_EQ(ui::VersionTextOf(10, 0, 45), L"10.045");
 }

@@ -1,68 +1,49 @@
 #include "capture/Chime.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <memory>
-#include <set>
 #include <string>
-#include <vector>
 
+#include "TemporaryFolder.h"
 #include "capture/CaptureSystem.h"
-#include "platform/API_Shell.h"
 
 namespace capture {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
+class ChimePathTest : public testing::Test {
+ protected:
+  void Add(const std::filesystem::path& file) {
+    std::filesystem::create_directories((folder_.Path() / file).parent_path());
+    std::ofstream(folder_.Path() / file) << "sound";
+  }
+  std::filesystem::path Found(const std::wstring& file) const {
+    return ChimePath(file, Folder(L"道具"), Folder(L"windows"));
+  }
+  std::wstring Folder(const wchar_t* name) const { return (folder_.Path() / name).wstring(); }
 
-class FakeChimeCalls : public ChimeCalls {
- public:
-  explicit FakeChimeCalls(std::set<std::wstring> files) : files_(std::move(files)) {}
-
-  std::wstring ProgramFolder() override { return L"D:\\道具"; }
-  std::wstring WindowsFolder() override { return L"C:\\windows"; }
-  bool IsFile(const std::wstring& path) override { return files_.contains(path); }
-  void Play(const std::wstring& path) override { done.push_back(L"play " + path); }
-  void Pump() override { done.push_back(L"pump"); }
-
-  std::vector<std::wstring> done;
-
- private:
-  std::set<std::wstring> files_;
+  TemporaryFolder folder_;
 };
 
-std::vector<std::wstring> Played(const std::wstring& file, std::set<std::wstring> files) {
-  FakeChimeCalls calls(std::move(files));
-  PlayChime(file, calls);
-  return calls.done;
+TEST_F(ChimePathTest, IsTheFileBesideTheProgram) {
+  Add(L"道具/鐘.wav");
+  Add(L"windows/media/鐘.wav");
+  EXPECT_EQ(Found(L"鐘.wav"), folder_.Path() / L"道具" / L"鐘.wav");
 }
 
-TEST(ChimeTest, PlaysTheFileBesideTheProgramOnceAndPumps) {
-  EXPECT_THAT(Played(L"鐘.wav", {L"D:\\道具\\鐘.wav"}),
-              ElementsAre(L"play D:\\道具\\鐘.wav", L"pump"));
+TEST_F(ChimePathTest, OtherwiseIsTheFileOfWindows) {
+  Add(L"windows/media/chimes.wav");
+  EXPECT_EQ(Found(L"chimes.wav"), folder_.Path() / L"windows" / L"media" / L"chimes.wav");
 }
 
-TEST(ChimeTest, PrefersItToTheOneOfWindows) {
-  EXPECT_THAT(Played(L"chimes.wav", {L"C:\\windows\\media\\chimes.wav", L"D:\\道具\\chimes.wav"}),
-              ElementsAre(L"play D:\\道具\\chimes.wav", L"pump"));
-}
-
-TEST(ChimeTest, ElsePlaysTheOneOfWindows) {
-  EXPECT_THAT(Played(L"chimes.wav", {L"C:\\windows\\media\\chimes.wav"}),
-              ElementsAre(L"play C:\\windows\\media\\chimes.wav", L"pump"));
-}
-
-TEST(ChimeTest, WithoutAFileNothingHappens) {
-  EXPECT_THAT(Played(L"chimes.wav", {L"C:\\windows\\chimes.wav", L"chimes.wav"}), IsEmpty());
-}
-
-TEST(ChimeTest, LooksInTheFoldersOfTheProgramAndOfWindows) {
-  ChimeCalls calls;
-  EXPECT_EQ(calls.ProgramFolder(), API_Shell::ProgramFolder());
-  EXPECT_EQ(calls.WindowsFolder(), API_Shell::FolderPath(API_Shell::kWindowsFolder));
-  EXPECT_TRUE(calls.IsFile(calls.ProgramFolder() + L"\\unit_tests.exe"));
+TEST_F(ChimePathTest, OtherwiseIsEmpty) {
+  Add(L"windows/chimes.wav");
+  Add(L"chimes.wav");
+  EXPECT_EQ(Found(L"chimes.wav"), L"");
+  // Without a name the folders themselves are found, which are not sounds.
+  EXPECT_EQ(Found(L""), L"");
 }
 
 TEST(ChimeTest, ACaptureHasItPlayed) {
@@ -74,16 +55,9 @@ TEST(ChimeTest, ACaptureHasItPlayed) {
   PostThreadMessageW(GetCurrentThreadId(), WM_APP, 0, 0);
   system->PlayChime(L"no such file.wav");
   EXPECT_TRUE(messageWaits());
-  // A file beside this program, if not a sound: what follows the playing is seen.
+  // A file beside this program that is no sound: the test sees what happens after playing.
   system->PlayChime(L"unit_tests.exe");
   EXPECT_FALSE(messageWaits());
-}
-
-// Without a name, what is looked at are the folders.
-TEST(ChimeTest, AFolderIsNoSound) {
-  ChimeCalls calls;
-  EXPECT_FALSE(calls.IsFile(calls.ProgramFolder() + L"\\"));
-  EXPECT_FALSE(calls.IsFile(calls.WindowsFolder()));
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ namespace {
 
 using testing::ElementsAre;
 
-// A main window that notes what is done to it.
+// A main window that records what is done to it.
 class RecordingWindow : public ConfigWindow {
  public:
   ScreenTwips Screen() const override { return {19200, 11520, 15, 15}; }
@@ -33,8 +33,8 @@ class RecordingWindow : public ConfigWindow {
   WindowValues CurrentValues() const override { return current; }
   void HighlightMousePos() override { calls.push_back("highlight"); }
   std::int32_t SetTurnBackBox(std::int32_t value) override { return Box("turn back", value); }
-  std::int32_t SetDetailBox(std::int32_t value) override { return Box("detail", value); }
-  std::int32_t SetAutoStopBox(std::int32_t value) override { return Box("auto stop", value); }
+  void SetDetailBox(std::int32_t value) override { Box("detail", value); }
+  void SetAutoStopBox(std::int32_t value) override { Box("auto stop", value); }
   void SetVisibleTopPaneHeight(std::int32_t height) override {
     calls.push_back("height " + std::to_string(height));
   }
@@ -76,14 +76,13 @@ TEST_F(ConfigFileTest, LiesBesideTheProgram) {
 }
 
 TEST_F(ConfigFileTest, AppliesEverythingWhileTheLayoutIsHeld) {
-  WriteBytes(Path(), "turn back = 5\r\ndetail = 1\r\nauto stop = 2\r\ntop height = 900\r\n");
+  WriteBytes(Path(), "turn back = 5\r\ndetail = 3\r\nauto stop = 2\r\ntop height = 900\r\n");
   LoadConfig(Path(), window_, record_);
-  EXPECT_THAT(window_.calls, ElementsAre("hold", "place", "turn back 5", "detail 1", "auto stop 2",
+  EXPECT_THAT(window_.calls, ElementsAre("hold", "place", "turn back 5", "detail 3", "auto stop 2",
                                          "height 900", "release", "layout"));
-  // The record keeps what the boxes hold.
-  EXPECT_EQ(record_.turnBack, 1);
-  EXPECT_EQ(record_.detail, 1);
-  EXPECT_EQ(record_.autoStop, 1);
+  EXPECT_EQ(record_.turnBack, 1);  // kept by its box
+  EXPECT_EQ(record_.detail, 3);
+  EXPECT_EQ(record_.autoStop, 2);
 }
 
 TEST_F(ConfigFileTest, HighlightsThePositionForClientAndForHex) {
@@ -121,7 +120,7 @@ TEST_F(ConfigFileTest, AFolderOfThatNameCountsAsNoFile) {
   EXPECT_TRUE(std::filesystem::is_directory(Path()));
 }
 
-TEST_F(ConfigFileTest, SurvivesBytesThatAreNoText) {
+TEST_F(ConfigFileTest, AcceptsBytesThatAreNoText) {
   std::string bytes;
   for (int i = 0; i < 4096; ++i) bytes += static_cast<char>(i * 7 + i / 256);
   WriteBytes(Path(), bytes + "\r\nhint = 1\r\n");

@@ -31,36 +31,6 @@ std::wstring Written(const ConfigValues& values) {
   return text;
 }
 
-struct NumberCase {
-  std::wstring_view text;
-  std::int32_t number;
-};
-
-class LeadingNumberTest : public testing::TestWithParam<NumberCase> {};
-
-TEST_P(LeadingNumberTest, ReadsWhatTheTextBeginsWith) {
-  EXPECT_EQ(LeadingNumber(GetParam().text), GetParam().number);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Texts, LeadingNumberTest,
-    testing::Values(
-        NumberCase{L"", 0}, NumberCase{L"0", 0}, NumberCase{L"7", 7}, NumberCase{L"12abc", 12},
-        NumberCase{L"abc", 0}, NumberCase{L"a1", 0}, NumberCase{L"12.5", 12},
-        NumberCase{L"13.5", 14}, NumberCase{L"12.50", 12}, NumberCase{L"12.5000001", 13},
-        NumberCase{L"12.49999", 12}, NumberCase{L"-5", -5}, NumberCase{L"+5", 5},
-        NumberCase{L"-12.5", -12}, NumberCase{L"-13.5", -14}, NumberCase{L"-0.5", 0},
-        NumberCase{L"-0.6", -1}, NumberCase{L".7", 1}, NumberCase{L".5", 0}, NumberCase{L"1.5", 2},
-        NumberCase{L"3.", 3}, NumberCase{L"3..5", 3}, NumberCase{L"1.2.9", 1}, NumberCase{L"5-", 5},
-        NumberCase{L"-", 0}, NumberCase{L"--5", 0}, NumberCase{L"- 5", 0}, NumberCase{L"   42", 42},
-        NumberCase{L"4 2", 4}, NumberCase{L"1e3", 1}, NumberCase{L"&H10", 0},
-        NumberCase{L"１２", 0}, NumberCase{L"\t5", 0}, NumberCase{L"007", 7},
-        NumberCase{L"2147483647", 2147483647}, NumberCase{L"2147483648", 2147483647},
-        NumberCase{L"2147483646.5", 2147483646}, NumberCase{L"2147483647.5", 2147483647},
-        NumberCase{L"-2147483648", -2147483647 - 1}, NumberCase{L"-2147483649", -2147483647 - 1},
-        NumberCase{L"99999999999999999999999999999999", 2147483647},
-        NumberCase{L"-99999999999999999999999999999999", -2147483647 - 1}));
-
 TEST(TrimmedTest, TakesBlanksOnly) {
   using platform::Trimmed;
   EXPECT_EQ(Trimmed(L"  a b  "), L"a b");
@@ -115,7 +85,7 @@ TEST(ConfigDefaultsTest, LeavesFiveSettingsAsTheyWere) {
 }
 
 TEST(ConfigLinesTest, WritesTheDefaultsAsUsersKnowThem) {
-  // To the last blank: files are compared, and read by scripts.
+  // With every blank, because files are compared, and read by scripts.
   EXPECT_EQ(Written(Defaults()),
             L"form left = 640\r\n"
             L"form top = 256\r\n"
@@ -169,7 +139,7 @@ TEST(ConfigLinesTest, WritesNumbersPlain) {
   EXPECT_NE(text.find(L"\r\naccname max = 1234567\r\n"), text.npos);
 }
 
-// Every key gets a value of its own, so that no two keys can share a field unnoticed.
+// Every key gets a different value, so that two keys that share a field are noticed.
 ConfigValues DistinctValues() {
   ConfigValues values;
   std::int32_t number = 101;

@@ -1,10 +1,10 @@
-#include "capture/ControlCategory.h"
+#include "report/ControlCategory.h"
 
 #include <gtest/gtest.h>
 
 #include "FakeCapture.h"
 
-namespace capture {
+namespace report {
 namespace {
 
 struct CategoryCase {
@@ -55,4 +55,4 @@ TEST(DocumentWindowTest, IsTheServerOrWhatAPagesOwnListsSitOn) {
 }
 
 }  // namespace
-}  // namespace capture
+}  // namespace report

@@ -1,4 +1,4 @@
-// Readers on windows of the test's own process, which note how they are asked.
+// Readers on windows of the test's own process, which record the messages.
 
 #include "extract/ControlText.h"
 
@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "../ReadItems.h"
 #include "extract/Win32API_Window.h"
 #include "platform/UniqueHandle.h"
 
@@ -58,7 +59,7 @@ class ControlTextTest : public testing::Test {
   }
 };
 
-TEST_F(ControlTextTest, CaptionsHaveABufferOfTheirOwnSize) {
+TEST_F(ControlTextTest, CaptionsHaveABufferOf9192Characters) {
   const auto window = Window(kClass);
   answers.text = L"a\nb\r\nc\rd";
   EXPECT_EQ(Win32API_Window::MyGetWindowText(window.Get()), L"a\r\nb\r\nc\rd");
@@ -71,17 +72,31 @@ TEST_F(ControlTextTest, ALongCaptionIsCut) {
   EXPECT_EQ(Win32API_Window::MyGetWindowText(window.Get()).size(), 9191U);
 }
 
-TEST_F(ControlTextTest, TheMarkForLineEndsBecomesOne) {
+TEST_F(ControlTextTest, ThePlaceholderForLineEndsBecomesALineEnd) {
   const auto window = Window(kClass);
   answers.text = L"a%!LF!%b";
   EXPECT_EQ(Win32API_Window::MyGetWindowText(window.Get()), L"a\r\nb");
 }
 
-TEST_F(ControlTextTest, TextsHaveTheOtherSize) {
+std::wstring EditText(HWND hwnd, std::wstring& method) {
+  return TextOf([&](platform::ItemSink& sink) { return MyGetEditItem(hwnd, sink); }, method);
+}
+
+std::wstring ChildText(HWND hwnd, std::wstring& method) {
+  return TextOf([&](platform::ItemSink& sink) { return GetChildText(hwnd, sink); }, method);
+}
+
+// listed is what the listing of accessible children gives.
+std::wstring OtherText(HWND hwnd, std::wstring_view listed, std::wstring& method) {
+  const auto listing = [listed](platform::ItemSink& children) { children.Text(listed); };
+  return TextOf([&](platform::ItemSink& sink) { return GetOther(hwnd, listing, sink); }, method);
+}
+
+TEST_F(ControlTextTest, TextsHaveABufferOf4096Characters) {
   const auto window = Window(kClass);
   answers.text = L"文字";
   std::wstring method;
-  EXPECT_EQ(MyGetEditItem(window.Get(), method), L"文字");
+  EXPECT_EQ(EditText(window.Get(), method), L"文字");
   EXPECT_EQ(method, L"WM_GETTEXT");
   EXPECT_EQ(answers.bufferSizes, std::vector<WPARAM>{4096});
 }
@@ -90,15 +105,15 @@ TEST_F(ControlTextTest, WithoutAZeroCharacterThereIsNoText) {
   const auto window = Window(kClass);
   answers.fillsTheBuffer = true;
   std::wstring method = L"(before)";
-  EXPECT_EQ(MyGetEditItem(window.Get(), method), L"");
+  EXPECT_EQ(EditText(window.Get(), method), L"");
   EXPECT_EQ(method, L"(before)");
 }
 
 TEST_F(ControlTextTest, NoTextLeavesTheMethod) {
   const auto window = Window(kClass);
   std::wstring method = L"(before)";
-  EXPECT_EQ(MyGetEditItem(window.Get(), method), L"");
-  EXPECT_EQ(MyGetEditItem(nullptr, method), L"");
+  EXPECT_EQ(EditText(window.Get(), method), L"");
+  EXPECT_EQ(EditText(nullptr, method), L"");
   EXPECT_EQ(method, L"(before)");
 }
 
@@ -144,35 +159,29 @@ TEST_F(ControlTextTest, ChildrensTextsFollowTheWindowsOwn) {
   const auto second = Window(L"STATIC", L"B", window.Get());
   const auto inside = Window(L"STATIC", L"deeper", first.Get());
   std::wstring method;
-  EXPECT_EQ(GetChildText(window.Get(), method), L"WA\r\nB\r\n");
+  EXPECT_EQ(ChildText(window.Get(), method), L"WA\r\nB\r\n");
   EXPECT_EQ(method, L"Accessible");
 
   SetWindowTextW(window.Get(), L"");
-  EXPECT_EQ(GetChildText(window.Get(), method), L"A\r\nB\r\n");
+  EXPECT_EQ(ChildText(window.Get(), method), L"A\r\nB\r\n");
   // In Z order, not in the order of creation.
   SetWindowPos(second.Get(), HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-  EXPECT_EQ(GetChildText(window.Get(), method), L"B\r\nA\r\n");
+  EXPECT_EQ(ChildText(window.Get(), method), L"B\r\nA\r\n");
 }
 
 TEST_F(ControlTextTest, OtherWindowsAreListedByTheirAccessibleChildren) {
   const auto window = Window(L"STATIC", L"W");
   std::wstring method;
-  EXPECT_EQ(GetOther(
-                window.Get(), [](HWND) { return std::wstring(L"一\r\n二\r\n"); }, method),
-            L"一\r\n二\r\n");
+  EXPECT_EQ(OtherText(window.Get(), L"一\r\n二\r\n", method), L"一\r\n二\r\n");
   EXPECT_EQ(method, L"Accessible");
-  // Also when that failed: the mark tells the user.
-  EXPECT_EQ(GetOther(
-                window.Get(), [](HWND) { return std::wstring(L"% 取得エラー！ %"); }, method),
-            L"% 取得エラー！ %");
+  // Also the mark of a failed listing: the user should see it.
+  EXPECT_EQ(OtherText(window.Get(), L"% 取得エラー！ %", method), L"% 取得エラー！ %");
 }
 
-TEST_F(ControlTextTest, AndByTheirChildWindowsWhenTheyHaveNone) {
+TEST_F(ControlTextTest, WithoutAccessibleChildrenTheChildWindowsAreListed) {
   const auto window = Window(L"STATIC", L"W");
   std::wstring method;
-  EXPECT_EQ(GetOther(
-                window.Get(), [](HWND) { return std::wstring(); }, method),
-            L"W");
+  EXPECT_EQ(OtherText(window.Get(), L"", method), L"W");
 }
 
 }  // namespace

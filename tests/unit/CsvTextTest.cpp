@@ -1,9 +1,33 @@
 #include "extract/CsvText.h"
 
+#include <windows.h>
+
 #include <gtest/gtest.h>
+
+#include <vector>
 
 namespace extract {
 namespace {
+
+// Reserves all address ranges of this process that could hold a large block.
+class NoRoomForLargeBlocks {
+ public:
+  NoRoomForLargeBlocks() {
+    void* block = nullptr;
+    while ((block = VirtualAlloc(nullptr, kLarge, MEM_RESERVE, PAGE_NOACCESS)) != nullptr) {
+      taken_.push_back(block);
+    }
+  }
+  ~NoRoomForLargeBlocks() {
+    for (void* const block : taken_) VirtualFree(block, 0, MEM_RELEASE);
+  }
+  NoRoomForLargeBlocks(const NoRoomForLargeBlocks&) = delete;
+  NoRoomForLargeBlocks& operator=(const NoRoomForLargeBlocks&) = delete;
+
+ private:
+  static constexpr SIZE_T kLarge = 8U << 20;
+  std::vector<void*> taken_;
+};
 
 TEST(CsvTextTest, RowsAndCells) {
   struct Case {
@@ -38,6 +62,21 @@ TEST(CsvTextTest, ALongTableTakesOneStepACharacter) {
     csv += L"a,\"\"\"\"\r\n";
   }
   EXPECT_EQ(ToCsv(text), csv + L"\r\n");
+}
+
+TEST(CsvTextTest, WithoutMemoryForAllOfItThereIsWhatFitted) {
+  std::wstring text;
+  for (int row = 0; row < 1'000'000; ++row) text += L"a,b\t\"\r\n";
+  const std::wstring whole = ToCsv(text);
+  std::wstring csv;
+  {
+    const NoRoomForLargeBlocks full;
+    csv = ToCsv(text);
+  }
+  EXPECT_GT(csv.size(), 100'000U);
+  EXPECT_LT(csv.size(), whole.size());
+  EXPECT_TRUE(whole.starts_with(csv));
+  EXPECT_EQ(ToCsv(text), whole);
 }
 
 }  // namespace

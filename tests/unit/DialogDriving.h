@@ -1,4 +1,4 @@
-// Works the controls of a dialog in the test's own process.
+// Uses the controls of a dialog in the test's own process.
 #pragma once
 
 #include <windows.h>

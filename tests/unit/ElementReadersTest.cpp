@@ -44,7 +44,7 @@ TEST_F(ElementReadersTest, ReadTheMembersOfTheirNames) {
   EXPECT_EQ(GetElType(&item_), L"disc");
   EXPECT_EQ(GetElInnerText(&item_), L"一\r\n二\n三\r\n\r\n四");
   EXPECT_EQ(GetUrl(&page_.Top()), L"http://host/");
-  EXPECT_EQ(GetBody(&page_.Top()), nullptr);  // this page writes its tag otherwise
+  EXPECT_EQ(GetBody(&page_.Top()), nullptr);  // this page writes its tag differently
 }
 
 TEST_F(ElementReadersTest, TheIdGoesBeforeTheName) {
@@ -86,7 +86,7 @@ TEST_F(ElementReadersTest, AncestorsGiveTheirTexts) {
   EXPECT_EQ(GetAncestorInnerHtml(&item_, 3), L"");
 }
 
-TEST_F(ElementReadersTest, NoAncestorIsSoughtWithoutEnd) {
+TEST_F(ElementReadersTest, TheSearchForAnAncestorEnds) {
   html::Element& root = page_.At("HTML");
   root.parent = &root;
   EXPECT_EQ(GetAncestorInnerText(&root, 256), L"全て");
@@ -95,7 +95,7 @@ TEST_F(ElementReadersTest, NoAncestorIsSoughtWithoutEnd) {
   EXPECT_LT(page_.watch.callCount, 300U);
 }
 
-TEST_F(ElementReadersTest, WhatFailsIsEmptyAndNobodyIsTold) {
+TEST_F(ElementReadersTest, FailingMembersAreEmptyWithoutAMessage) {
   page_.watch.failures[""] = E_FAIL;
   MessageBoxes boxes;
   EXPECT_EQ(GetElTagName(&item_), L"");

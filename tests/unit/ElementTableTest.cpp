@@ -1,8 +1,8 @@
-#include "capture/ElementTable.h"
+#include "report/ElementTable.h"
 
 #include <gtest/gtest.h>
 
-namespace capture {
+namespace report {
 namespace {
 
 using MyInternetexplore::ElementFacts;
@@ -72,4 +72,4 @@ TEST(ElementTableTest, AnInterruptionStandsWhereRowsAreMissing) {
 }
 
 }  // namespace
-}  // namespace capture
+}  // namespace report

@@ -1,4 +1,4 @@
-// The calls by which a page is reached, with windows and an object of the test's own behind them.
+// The calls that reach a page, answered with the test's own windows and object.
 #pragma once
 
 #include <windows.h>

@@ -1,5 +1,5 @@
-// A screen and a system that only take notes, and a clock that the test moves: what a capture does
-// can be followed pass by pass.
+// A screen and a system that record their calls, and a clock that the test moves, so that a test
+// can follow a capture pass by pass.
 #pragma once
 
 #include <functional>
@@ -16,11 +16,11 @@ inline HWND WindowNumber(int number) {
   return reinterpret_cast<HWND>(static_cast<INT_PTR>(number));
 }
 
-// What can be told to fail.
+// Something that can be made to fail.
 class Failing {
  public:
   bool failing = false;     // every call
-  std::string failingCall;  // the call that fails alone, as the trace names it
+  std::string failingCall;  // the only call that fails, as the trace names it
 
  protected:
   void Fail(std::string_view call = {}) const {
@@ -152,9 +152,10 @@ class FakeSystem : public capture::CaptureSystem, public Failing {
   }
   void SendSelectAll() override { trace_.push_back("select all"); }
   bool PutOnClipboard(const std::wstring& text) override {
-    clipboard = text;
     trace_.push_back("clipboard");
     Fail("clipboard");
+    if (clipboardIsHeld) return false;
+    clipboard = text;
     return true;
   }
   void PlayChime(const std::wstring& file) override {
@@ -192,6 +193,7 @@ class FakeSystem : public capture::CaptureSystem, public Failing {
   std::set<std::int32_t> down;
   std::vector<std::int32_t> askedKeys;
   std::wstring clipboard = L"(before)";
+  bool clipboardIsHeld = false;  // by another program
   std::wstring chimeFile;
   std::wstring tooltip;
   int tooltipsAsked = 0;
@@ -204,7 +206,7 @@ class FakeSystem : public capture::CaptureSystem, public Failing {
   std::vector<std::string>& trace_;
 };
 
-// Everything a capture works on, with the settings that the program comes with.
+// Everything that a capture needs, with the program's default settings.
 struct FakeCapture {
   FakeCapture() {
     settings.hotkey = L"ESC";

@@ -1,4 +1,4 @@
-// A session in which a test is the target window: it notes the progress and may move on.
+// A session that records the progress and can change the target or end the capture.
 #pragma once
 
 #include <windows.h>
@@ -11,7 +11,9 @@
 #include "platform/ReadSession.h"
 
 struct FakeSession {
-  HWND target = reinterpret_cast<HWND>(static_cast<std::uintptr_t>(0x1234));
+  static inline const HWND kWindow = reinterpret_cast<HWND>(static_cast<std::uintptr_t>(0x1234));
+
+  HWND target = kWindow;
   bool running = true;
   int moveOnAfter = -1;  // the target changes in that yield
   int endAfter = -1;     // the capture ends in that yield
@@ -27,7 +29,7 @@ struct FakeSession {
               if (yields == endAfter) running = false;
               onYield();
             },
-            [this] { return running; }};
+            [this] { return running; }, kWindow};
   }
   void GoElsewhere() { target = reinterpret_cast<HWND>(static_cast<std::uintptr_t>(0x9999)); }
 };

@@ -1,4 +1,4 @@
-// A control, its process and a reading session that only take notes and answer what a test wants.
+// A control, its process and a session that record their calls and answer what a test wants.
 #pragma once
 
 #include <windows.h>
@@ -36,7 +36,7 @@ std::string CallText(std::string name, Values... values) {
   return name;
 }
 
-// The memory of a target process, which is this process's own in truth.
+// The memory of a target process, which is really this process's own.
 class FakeMemory : public MyMapView::MemoryCalls {
  public:
   HANDLE OpenProcess(DWORD rights, BOOL inherit, DWORD processId) override {
@@ -114,7 +114,7 @@ class FakeMemory : public MyMapView::MemoryCalls {
   }
   FARPROC GetProcAddress(HMODULE, const char* procedure) override {
     askedProcedure = procedure;
-    // By way of void*, for a direct cast between unlike functions is taken for a mistake.
+    // Through void*, because the compiler warns of a direct cast between function types.
     return knowsEmulation ? reinterpret_cast<FARPROC>(reinterpret_cast<void*>(AnswerEmulation))
                           : nullptr;
   }
@@ -171,7 +171,7 @@ class FakeMemory : public MyMapView::MemoryCalls {
   }
 };
 
-// A control that answers as the test says, in this process: what a message points to is at hand.
+// A control in this process that answers as the test says; it can use the pointers in messages.
 class FakeMessages : public extract::ControlMessages {
  public:
   struct Sent {

@@ -15,6 +15,7 @@ namespace {
 
 using html::DocumentData;
 using html::ElementData;
+using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::StartsWith;
 
@@ -44,7 +45,7 @@ class FrameDescentTest : public testing::Test {
     {
       frames_.clear();
       const DocumentPtr document =
-          ResolveFrameDocument(point, {0, 0}, &page.Top(), origin_, frames_);
+          ResolveFrameDocument(point, {0, 0}, &page.Top(), origin_, frames_, Note());
       resolved_ = document ? GetUrl(document.Get()) : L"none";
       frames_.clear();
     }
@@ -65,8 +66,13 @@ class FrameDescentTest : public testing::Test {
     return found;
   }
 
+  ShowMessage Note() {
+    return [this](const std::wstring& text) { messages_.push_back(text); };
+  }
+
   FakeBrowser fake_;
   MessageBoxes boxes_;
+  std::vector<std::wstring> messages_;  // messages to the user other than boxes
   FrameTrail frames_;
   POINT origin_{-1, -1};
   std::wstring resolved_;
@@ -76,7 +82,7 @@ TEST_F(FrameDescentTest, WithoutFramesItIsTheDocumentItself) {
   html::Page page(With({{.tag = L"P", .place = kLeft}}));
   FrameTrail trail;
   const DocumentPtr document =
-      ResolveFrameDocument({50, 60}, {10, 20}, &page.Top(), origin_, trail);
+      ResolveFrameDocument({50, 60}, {10, 20}, &page.Top(), origin_, trail, Note());
   EXPECT_EQ(document.Get(), &page.Top());
   EXPECT_EQ(origin_.x, 10);
   EXPECT_EQ(origin_.y, 20);
@@ -103,7 +109,7 @@ TEST_F(FrameDescentTest, ThePointerFindsFramesByNameOnly) {
   html::Page page(With(
       {Frame({.tag = L"FRAME", .id = L"menu", .name = L"", .windowName = L"menu"}, kLeft, L"a")}));
   EXPECT_EQ(Resolve(page, {50, 50}), L"http://a");
-  // The frame element itself is found when no frame belongs to it.
+  // The frame element itself is found when no frame matches it.
   EXPECT_EQ(Find(page, {50, 50}), L"FRAME#menu");
   EXPECT_THAT(boxes_.shown, IsEmpty());
 }
@@ -130,12 +136,12 @@ TEST_F(FrameDescentTest, TheFirstFrameOfTheNameIsTaken) {
   EXPECT_EQ(Find(page, {150, 50}), L"P#first");
 }
 
-TEST_F(FrameDescentTest, OfUnnamedFramesTheFirstIsEnteredWhicheverIsMeant) {
+TEST_F(FrameDescentTest, OfUnnamedFramesTheFirstIsAlwaysEntered) {
   html::Page page(With({Frame({.tag = L"FRAME", .name = L""}, kLeft, L"first"),
                         Frame({.tag = L"FRAME", .name = L""}, kRight, L"second")}));
   EXPECT_EQ(Resolve(page, {150, 50}), L"http://first");
   EXPECT_EQ(Find(page, {150, 50}), L"P#first");
-  // Where the second lies, all the same.
+  // With the origin of the second.
   EXPECT_EQ(origin_.x, 100);
 }
 
@@ -158,7 +164,7 @@ TEST_F(FrameDescentTest, NestedFramesMoveTheOriginOneByOne) {
   FrameTrail trail;
   {
     const DocumentPtr document =
-        ResolveFrameDocument({1150, 2100}, {1000, 2000}, &page.Top(), origin_, trail);
+        ResolveFrameDocument({1150, 2100}, {1000, 2000}, &page.Top(), origin_, trail, Note());
     EXPECT_EQ(GetUrl(document.Get()), L"http://deep");
   }
   EXPECT_EQ(origin_.x, 1000 + 100 - 30);
@@ -201,16 +207,17 @@ struct Failure {
 
 class FrameFailureTest : public FrameDescentTest, public testing::WithParamInterface<Failure> {};
 
-TEST_P(FrameFailureTest, EndsBothDescentsAndThatOfThePointerSaysSo) {
+TEST_P(FrameFailureTest, EndsBothDescentsAndEachReportsIt) {
   html::Page page(With({Frame({.tag = L"FRAME", .name = L"a"}, kLeft, L"a")}));
   page.watch.failures[GetParam().call] = GetParam().code;
+  const std::wstring error =
+      std::to_wstring(GetParam().code) + L" " + platform::SystemDescription(GetParam().code);
   EXPECT_EQ(Resolve(page, {50, 50}), L"none");
   EXPECT_THAT(boxes_.shown, IsEmpty());
+  EXPECT_THAT(messages_, ElementsAre(L"ResolveFrameDocument:" + error));
   EXPECT_EQ(Find(page, {50, 50}), L"none");
-  ASSERT_EQ(boxes_.shown.size(), 1U);
-  EXPECT_EQ(boxes_.shown[0], L"GetElFromPoint|" + std::to_wstring(GetParam().code) + L" " +
-                                 platform::SystemDescription(GetParam().code) +
-                                 L"\r\nError Line = 0");
+  EXPECT_THAT(boxes_.shown, ElementsAre(L"GetElFromPoint|" + error + L"\r\nError Line = 0"));
+  EXPECT_EQ(messages_.size(), 1U);
 }
 
 INSTANTIATE_TEST_SUITE_P(Calls, FrameFailureTest,
@@ -224,7 +231,7 @@ INSTANTIATE_TEST_SUITE_P(Calls, FrameFailureTest,
                                          Failure{"FRAME@a.rectangle.left", E_FAIL},
                                          Failure{"FRAME@a.rectangle.top", RPC_E_SERVERFAULT}));
 
-TEST_F(FrameDescentTest, APointerThatCannotBeReadIsSaid) {
+TEST_F(FrameDescentTest, APointerThatCannotBeReadIsReported) {
   html::Page page(With({}));
   fake_.hasPointer = false;
   EXPECT_EQ(Find(page, {50, 50}), L"none");
@@ -232,10 +239,11 @@ TEST_F(FrameDescentTest, APointerThatCannotBeReadIsSaid) {
   EXPECT_THAT(boxes_.shown[0], StartsWith(L"GetElFromPoint|-2147024891 "));
 }
 
-TEST_F(FrameDescentTest, FramesWithoutEndEnd) {
+TEST_F(FrameDescentTest, EndlessFramesGiveNothing) {
   html::Page page(With({Frame({.tag = L"FRAME", .name = L"a"}, {0, 0, 400, 400}, L"a")}));
   page.WindowNamed("a").content = &page.Top();  // the frame shows the page that it is in
   EXPECT_EQ(Resolve(page, {50, 50}), L"none");
+  EXPECT_THAT(messages_, IsEmpty());
   EXPECT_EQ(Find(page, {50, 50}), L"none");
   EXPECT_THAT(boxes_.shown, IsEmpty());
 }

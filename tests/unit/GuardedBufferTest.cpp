@@ -9,7 +9,7 @@
 namespace platform {
 namespace {
 
-TEST(GuardedBufferTest, RoomIsWritableAndEmptyAndNothingBehindItCanBeTouched) {
+TEST(GuardedBufferTest, MemoryIsWritableAndEmptyAndNothingAfterItIsAccessible) {
   for (const std::size_t characters : {1U, 2048U, 2049U, 100'000U}) {
     GuardedBuffer buffer;
     buffer.Reserve(characters);
@@ -32,14 +32,14 @@ TEST(GuardedBufferTest, ABufferThatIsLargeEnoughStaysWithItsContent) {
   EXPECT_EQ(buffer.Data()[4999], L'x');
 }
 
-TEST(GuardedBufferTest, MoreThanThereIsFailsAndLeavesNothing) {
+TEST(GuardedBufferTest, AnImpossibleSizeThrowsAndLeavesNothing) {
   GuardedBuffer buffer;
   EXPECT_THROW(buffer.Reserve(0x7F000000 / sizeof(wchar_t)), std::bad_alloc);
   EXPECT_EQ(buffer.Size(), 0U);
   EXPECT_EQ(buffer.Data(), nullptr);
 }
 
-TEST(GuardedBufferTest, MemoryIsGivenBack) {
+TEST(GuardedBufferTest, MemoryIsReleased) {
   const wchar_t* data = nullptr;
   {
     GuardedBuffer buffer;

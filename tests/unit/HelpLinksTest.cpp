@@ -33,7 +33,7 @@ TEST(HelpLinksTest, PageBesideTheProgramIsAnAddress) {
   }
 }
 
-// What the system makes of the address is where the page stands.
+// The system turns the address back into the path of the page.
 TEST(HelpLinksTest, AddressLeadsBackToThePath) {
   for (const Case& one : kCases) {
     wchar_t path[MAX_PATH] = {};

@@ -62,10 +62,25 @@ TEST_F(HotKeyDialogTest, AnythingButZeroTicksTheBox) {
     EXPECT_EQ(BoxValue(Control(chkEnableHotT)), 1);
     Click(Control(cmdClose1));
     EXPECT_EQ(settings_.enableHotT, value);
-    Open(L"F9", value);
-    Click(Control(cmdClose0));
-    EXPECT_EQ(settings_.enableHotT, 1);
   }
+}
+
+TEST_F(HotKeyDialogTest, OkStoresABoxThatWasClickedAndLeavesTheOther) {
+  Open(L"F9", 5);
+  Click(Control(cmdClose0));
+  EXPECT_EQ(settings_.enableHotT, 5);
+  Open(L"F9", 5);
+  Click(Control(chkEnableHotT));
+  Click(Control(chkEnableHotT));
+  Click(Control(cmdClose0));
+  EXPECT_EQ(settings_.enableHotT, 1);
+  // An earlier click does not count.
+  Open(L"F9", 5);
+  Click(Control(chkEnableHotT));
+  Click(Control(cmdClose1));
+  Open(L"F9", 5);
+  Click(Control(cmdClose0));
+  EXPECT_EQ(settings_.enableHotT, 5);
 }
 
 TEST_F(HotKeyDialogTest, EmptyNameCanBeChosen) {
@@ -78,18 +93,24 @@ TEST_F(HotKeyDialogTest, EmptyNameCanBeChosen) {
 }
 
 TEST_F(HotKeyDialogTest, OtherWaysToCloseStoreNothing) {
-  for (int way = 0; way < 3; ++way) {
+  for (int way = 0; way < 2; ++way) {
     Open(L"F9", 1);
     ChooseItem(Control(cmbHotKey), 3);
     Click(Control(chkEnableHotT));
     if (way == 0) Click(Control(cmdClose1));
     if (way == 1) SendMessageW(dialog_.Handle(), WM_CLOSE, 0, 0);
-    if (way == 2) SendMessageW(dialog_.Handle(), WM_COMMAND, IDCANCEL, 0);
     EXPECT_EQ(dialog_.Handle(), nullptr);
     EXPECT_EQ(closed_, way + 1);
     EXPECT_EQ(settings_.hotkey, L"F9");
     EXPECT_EQ(settings_.enableHotT, 1);
   }
+}
+
+TEST_F(HotKeyDialogTest, EscLeavesItOpen) {
+  Open(L"F9");
+  SendMessageW(dialog_.Handle(), WM_COMMAND, IDCANCEL, 0);
+  EXPECT_NE(dialog_.Handle(), nullptr);
+  EXPECT_EQ(closed_, 0);
 }
 
 TEST_F(HotKeyDialogTest, SecondButtonIsCaptionedCancel) {
@@ -105,14 +126,22 @@ TEST_F(HotKeyDialogTest, UnknownNameIsShownAndKept) {
   EXPECT_EQ(settings_.hotkey, L"Ctrl+Q");
 }
 
-TEST_F(HotKeyDialogTest, ListTakesNoKeys) {
+TEST_F(HotKeyDialogTest, ListTakesNoTyping) {
   Open(L"F9");
   Type(Control(cmbHotKey), L"F1");
-  for (const int key : {VK_DOWN, VK_HOME, VK_DELETE, VK_F4}) {
+  for (const int key : {int{'F'}, VK_DELETE, VK_BACK, VK_INSERT, VK_SPACE}) {
     SendMessageW(BoxOfList(Control(cmbHotKey)), WM_KEYDOWN, static_cast<WPARAM>(key), 0);
   }
   EXPECT_EQ(WindowText(Control(cmbHotKey)), L"F9");
   EXPECT_EQ(Chosen(), 11);
+}
+
+TEST_F(HotKeyDialogTest, ArrowsChooseInTheClosedList) {
+  Open(L"F9");
+  SendMessageW(BoxOfList(Control(cmbHotKey)), WM_KEYDOWN, VK_DOWN, 0);
+  EXPECT_EQ(Chosen(), 12);
+  EXPECT_EQ(WindowText(Control(cmbHotKey)), L"F10");
+  EXPECT_EQ(settings_.hotkey, L"F9");
 }
 
 TEST_F(HotKeyDialogTest, OwnerTakesNoInputWhileItIsOpen) {

@@ -33,7 +33,7 @@ TEST_F(IdleKeysTest, NothingPressedDoesNothing) {
 TEST_F(IdleKeysTest, TheHotKeyStartsACapture) {
   Press(kEsc);
   EXPECT_THAT(fake_.trace, ElementsAre("Timer_Go on"));
-  // The first that fires is the only one that is looked at.
+  // After the first key that fires, no other one is tested.
   EXPECT_THAT(fake_.system.askedKeys, ElementsAre(kEsc));
 }
 
@@ -78,7 +78,7 @@ TEST_F(IdleKeysTest, CtrlASendsNothingToOtherPrograms) {
   EXPECT_THAT(fake_.trace, IsEmpty());
 }
 
-TEST_F(IdleKeysTest, WithoutAHotKeyKeyZeroIsAskedAndNothingStarts) {
+TEST_F(IdleKeysTest, WithoutAHotKeyKeyZeroIsQueriedAndNothingStarts) {
   fake_.settings.hotkey = L"";
   PollIdleKeys(fake_.Context());
   EXPECT_THAT(fake_.system.askedKeys, ElementsAre(0, kAltT, kCtrlA));

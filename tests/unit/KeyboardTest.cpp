@@ -8,8 +8,7 @@
 
 namespace {
 
-// Keys as the test sets them; asking for a key takes its "was pressed" bit away, as the system
-// does.
+// Keys as the test sets them; a query clears the key's "was pressed" bit, as the system does.
 class FakeKeyboard : public settings::KeyboardState {
  public:
   void Press(int key) { state_[key] = static_cast<short>(0x8001); }
@@ -102,7 +101,7 @@ TEST(HotKeyPressTest, AKeyThatIsOnlyHeldDoesNotFire) {
   EXPECT_FALSE(MySub_HotKey::HotKeyPressed(27, keyboard));
 }
 
-TEST(HotKeyPressTest, CodeZeroAsksForKeyZeroAndNeverFires) {
+TEST(HotKeyPressTest, CodeZeroQueriesKeyZeroAndNeverFires) {
   FakeKeyboard keyboard;
   EXPECT_FALSE(MySub_HotKey::HotKeyPressed(0, keyboard));
   EXPECT_EQ(keyboard.asked, std::vector<int>{0});
@@ -195,6 +194,20 @@ TEST(KeyInputsTest, MarksEveryKeyAsExtended) {
   EXPECT_EQ(inputs[1].ki.wVk, VK_HOME);
   EXPECT_EQ(inputs[1].ki.dwFlags, 3U);
   EXPECT_EQ(sizeof(INPUT), 28U);
+}
+
+TEST(KeyInputsTest, AreSentInOneCallWithTheirCountAndSize) {
+  const MyKeyboard::KeyStroke strokes[] = {{'A', false}, {'A', true}, {VK_HOME, true}};
+  int calls = 0;
+  const UINT taken = MyKeyboard::sKeyEventSet(strokes, [&](UINT count, INPUT* records, int size) {
+    ++calls;
+    EXPECT_EQ(count, 3U);
+    EXPECT_EQ(size, 28);
+    for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(records[i].ki.wVk, strokes[i].virtualKey) << i;
+    return UINT{2};
+  });
+  EXPECT_EQ(calls, 1);
+  EXPECT_EQ(taken, 2U);
 }
 
 TEST(SelectAllTest, GoesHomeAndExtendsToTheEnd) {

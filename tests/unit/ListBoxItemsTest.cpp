@@ -8,6 +8,7 @@
 #include <map>
 #include <stdexcept>
 
+#include "../ReadItems.h"
 #include "FakeTarget.h"
 #include "platform/ErrorReport.h"
 
@@ -21,7 +22,7 @@ using testing::IsEmpty;
 // What differs between the two kinds of list.
 struct Kind {
   const char* name;
-  std::wstring (*read)(HWND, const platform::ReadSession&, std::wstring&, const ControlAccess&);
+  ItemReader read;
   UINT count;
   UINT length;
   UINT text;
@@ -38,8 +39,8 @@ class ListBoxItemsTest : public testing::TestWithParam<Kind> {
   }
 
   std::wstring Read() {
-    return GetParam().read(target_.hwnd, target_.capture.Session(), target_.method,
-                           target_.Access());
+    return ReadText(GetParam().read, target_.hwnd, target_.capture.Session(), target_.method,
+                    target_.Access());
   }
 
   std::int32_t Answer(UINT message, WPARAM item, LPARAM buffer) {
@@ -90,7 +91,7 @@ TEST_P(ListBoxItemsTest, AnEmptyListIsNoTextWithALabel) {
   EXPECT_EQ(target_.capture.yields, 0);
 }
 
-TEST_P(ListBoxItemsTest, ACountBelowNothingIsAnEmptyList) {
+TEST_P(ListBoxItemsTest, ANegativeCountIsAnEmptyList) {
   for (const std::int32_t count : {-1, -2, INT32_MIN}) {
     claimedCount_ = count;
     EXPECT_EQ(Read(), L"");
@@ -98,12 +99,22 @@ TEST_P(ListBoxItemsTest, ACountBelowNothingIsAnEmptyList) {
   }
 }
 
-TEST_P(ListBoxItemsTest, AnItemThatIsNotGivenIsLeftOutSilently) {
+TEST_P(ListBoxItemsTest, AnItemThatIsNotGivenIsAnEmptyLine) {
   items_ = {L"one", L"two", L"three"};
   failing_[1] = true;
-  EXPECT_EQ(Read(), L"one\r\nthree\r\n");
-  EXPECT_THAT(target_.capture.progress, ElementsAre(L"0/2", L"2/2"));
-  EXPECT_EQ(target_.capture.yields, 2);
+  EXPECT_EQ(Read(), L"one\r\n\r\nthree\r\n");
+  EXPECT_THAT(target_.capture.progress, ElementsAre(L"0/2", L"1/2", L"2/2"));
+  EXPECT_EQ(target_.capture.yields, 3);
+}
+
+TEST_P(ListBoxItemsTest, WhatWasWrittenCountsNotWhatWasAnswered) {
+  items_ = {L"one", L"two"};
+  const auto honest = target_.messages.answer;
+  target_.messages.answer = [&](UINT message, WPARAM item, LPARAM buffer) {
+    const std::int32_t answer = honest(message, item, buffer);
+    return message == GetParam().text ? LB_ERR : answer;
+  };
+  EXPECT_EQ(Read(), L"one\r\ntwo\r\n");
 }
 
 TEST_P(ListBoxItemsTest, AnItemWithoutAnEndIsLeftOut) {
@@ -118,7 +129,7 @@ TEST_P(ListBoxItemsTest, AnItemWithoutAnEndIsLeftOut) {
     return 3;
   };
   EXPECT_EQ(Read(), L"one\r\nthree\r\n");
-  EXPECT_THAT(target_.capture.progress, ElementsAre(L"0/2", L"2/2"));
+  EXPECT_EQ(target_.capture.yields, 3);
 }
 
 TEST_P(ListBoxItemsTest, AnItemDoesNotShowTheRestOfTheOneBefore) {
@@ -170,12 +181,25 @@ TEST_P(ListBoxItemsTest, ValuesOfAnOwnerThatDrawsTheItemsAreNoTexts) {
   EXPECT_EQ(Read(), L"five5\r\n");
 }
 
-TEST_P(ListBoxItemsTest, AControlThatGivesNothingDoesNotKeepTheReader) {
+TEST_P(ListBoxItemsTest, AControlThatGivesNothingIsReadUntilThePointerLeaves) {
   claimedCount_ = INT32_MAX;
   items_ = {L"one"};
-  EXPECT_EQ(Read(), L"one\r\n");
+  target_.capture.moveOnAfter = 3000;
+  std::wstring expected = L"one\r\n";
+  for (int i = 1; i < 3000; ++i) expected += L"\r\n";
+  EXPECT_EQ(Read(), expected + L"・・・中断・・・");
   EXPECT_EQ(target_.method, GetParam().label);
-  EXPECT_LT(target_.messages.sent.size(), 5000U);
+}
+
+TEST_P(ListBoxItemsTest, ReadingValuesOfAnOwnerEndsWhenThePointerLeaves) {
+  claimedCount_ = INT32_MAX;
+  items_ = {L"data"};
+  target_.messages.style = LBS_OWNERDRAWFIXED;
+  target_.messages.answer = [&](UINT message, WPARAM, LPARAM) {
+    return message == GetParam().count ? INT32_MAX : 4;
+  };
+  target_.capture.moveOnAfter = 20;
+  EXPECT_EQ(Read(), L"・・・中断・・・");
 }
 
 TEST_P(ListBoxItemsTest, ANewTargetInterruptsBeforeTheNextItem) {

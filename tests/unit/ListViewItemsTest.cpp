@@ -7,6 +7,7 @@
 #include <array>
 #include <optional>
 
+#include "../ReadItems.h"
 #include "FakeTarget.h"
 #include "extract/CsvText.h"
 #include "platform/TextCodec.h"
@@ -35,13 +36,17 @@ class ListViewItemsTest : public testing::Test {
   }
 
   std::wstring Read(std::int32_t listviewCol = 0) {
-    return GetListViewItem(
-        target_.hwnd, target_.capture.Session(), target_.method, listviewCol,
-        [this](HWND hwnd) {
-          accessibleOf_.push_back(hwnd);
-          return std::wstring(L"accessible\r\n");
+    return TextOf(
+        [&](platform::ItemSink& sink) {
+          return GetListViewItem(
+              target_.hwnd, target_.capture.Session(), sink, listviewCol,
+              [this](platform::ItemSink& children) {
+                ++accessibleReads_;
+                PutItem(children, L"accessible");
+              },
+              target_.Access());
         },
-        target_.Access());
+        target_.method);
   }
 
   std::int32_t Answer(UINT message, LPARAM record) {
@@ -66,7 +71,7 @@ class ListViewItemsTest : public testing::Test {
   std::int32_t header_ = 0x5678;
   std::vector<Fields> records_;
   bool emptied_ = true;
-  std::vector<HWND> accessibleOf_;
+  int accessibleReads_ = 0;
   FakeTarget target_;
 };
 
@@ -76,7 +81,7 @@ TEST_F(ListViewItemsTest, CellsAreSeparatedByTabsAndRowsEndWithALineEnd) {
   EXPECT_EQ(target_.method, L"LVM_GETITEMW");
   EXPECT_THAT(target_.capture.progress, ElementsAre(L"1/3", L"2/3", L"3/3"));
   EXPECT_EQ(target_.capture.yields, 3);
-  EXPECT_THAT(accessibleOf_, IsEmpty());
+  EXPECT_EQ(accessibleReads_, 0);
 }
 
 TEST_F(ListViewItemsTest, JapaneseComesFromTheCodePage) {
@@ -136,7 +141,7 @@ TEST_F(ListViewItemsTest, A64BitSystemIsReadThroughAccessibility) {
     EXPECT_EQ(Read(), L"accessible\r\n");
     EXPECT_EQ(target_.method, L"Accessible");
   }
-  EXPECT_THAT(accessibleOf_, ElementsAre(target_.hwnd, target_.hwnd));
+  EXPECT_EQ(accessibleReads_, 2);
   EXPECT_THAT(target_.messages.sent, IsEmpty());
   EXPECT_THAT(target_.memory.calls, IsEmpty());
 }
@@ -146,12 +151,12 @@ TEST_F(ListViewItemsTest, NoWindowAndNoRowsGiveNothing) {
     rows_ = rows;
     EXPECT_EQ(Read(), L"");
   }
-  EXPECT_EQ(
-      GetListViewItem(nullptr, target_.capture.Session(), target_.method, 0, {}, target_.Access()),
-      L"");
+  platform::TextSink sink;
+  GetListViewItem(nullptr, target_.capture.Session(), sink, 0, {}, target_.Access());
+  EXPECT_EQ(sink.Take(), L"");
   EXPECT_EQ(target_.method, L"(untouched)");
   EXPECT_EQ(target_.messages.Count(kHeader), 0);
-  EXPECT_THAT(accessibleOf_, IsEmpty());
+  EXPECT_EQ(accessibleReads_, 0);
 }
 
 TEST_F(ListViewItemsTest, WithoutColumnsTheAccessibleObjectIsRead) {
@@ -175,7 +180,7 @@ TEST_F(ListViewItemsTest, WithoutAnyCellTextTheAccessibleObjectIsRead) {
   cells_ = {{L"", L"", L""}, {L"", L"", L""}};
   EXPECT_EQ(Read(), L"accessible\r\n");
   EXPECT_EQ(target_.method, L"Accessible");
-  EXPECT_THAT(accessibleOf_, ElementsAre(target_.hwnd));
+  EXPECT_EQ(accessibleReads_, 1);
   EXPECT_EQ(target_.memory.calls.back(), "CloseHandle 51");
 }
 
@@ -219,7 +224,7 @@ TEST_F(ListViewItemsTest, AnInterruptedReadingOfEmptyCellsIsNotBegunAnew) {
   cells_ = {{L"", L"", L""}, {L"", L"", L""}};
   target_.capture.onYield = [&] { target_.capture.GoElsewhere(); };
   EXPECT_EQ(Read(), L"\t\t\r\n・・・中断・・・");
-  EXPECT_THAT(accessibleOf_, IsEmpty());
+  EXPECT_EQ(accessibleReads_, 0);
 }
 
 TEST_F(ListViewItemsTest, TargetsWithoutMemoryForUsGiveNothing) {
@@ -240,7 +245,7 @@ TEST_F(ListViewItemsTest, TargetsWithoutMemoryForUsGiveNothing) {
   target_.memory.opens = false;
   EXPECT_EQ(Read(), L"");
   EXPECT_EQ(target_.messages.Count(kItem), 0);
-  EXPECT_THAT(accessibleOf_, IsEmpty());
+  EXPECT_EQ(accessibleReads_, 0);
 }
 
 TEST_F(ListViewItemsTest, ATargetThatEndsMeanwhileLeavesWhatWasRead) {

@@ -80,7 +80,7 @@ TEST(LayoutTest, TheTopPaneIsShrunkOnlyWhenItEndsMoreThan120BelowTheWindow) {
   EXPECT_EQ(shrunk.g.T.height, SH - now.T.top - 1500);
   EXPECT_EQ(shrunk.topHeight, shrunk.g.T.height);
 
-  // Enlarging the window does not bring the former height back.
+  // Enlarging the window does not restore the previous height.
   const auto enlarged = LayOut(7000, 9000, shrunk.topHeight, kAt96, shrunk.g);
   EXPECT_EQ(enlarged.g.T.height, shrunk.g.T.height);
 }
@@ -95,7 +95,7 @@ TEST(LayoutTest, AHeightBeyondEveryScreenIsShrunkToo) {
   EXPECT_EQ(shrunk.topHeight, shrunk.g.T.height);
   EXPECT_EQ(shrunk.g.B.Bottom(), shrunk.g.txtStatus.top + 1);
 
-  // Where there is no room for that either, everything below it is out of sight.
+  // When there is no room for that either, everything below it is out of sight.
   const auto flat = LayOut(7000, 1000, kMost, kAt96, now).g;
   EXPECT_EQ(flat.T.Bottom(), kMost);
   EXPECT_EQ(flat.frCenter.top, kMost);
@@ -129,6 +129,7 @@ TEST(LayoutTest, ArrangesTheCentreStripFromTheRight) {
   EXPECT_EQ(g.txtCount.left, g.chkDetail.left - g.txtCount.width - 48);
   EXPECT_EQ(g.txtWin2.Right(), g.txtCount.left);
   EXPECT_EQ(g.txtWin2.top, g.txtWin1.top);
+  EXPECT_EQ(g.lblListKind.Right(), g.txtCount.left - 48);
 }
 
 TEST(LayoutTest, AStepThatWouldTurnASizeNegativeChangesNothing) {
@@ -156,7 +157,7 @@ TEST(LayoutTest, ANegativeStoredHeightChangesNothing) {
 }
 
 TEST(LayoutTest, MovesNothingElse) {
-  // Laying out twice gives the same: no step depends on how often it ran.
+  // A second layout gives the same result.
   const auto once = LayOut(5640, 4500);
   const auto twice = LayOut(5640, 4500, once.topHeight, kAt96, once.g);
   EXPECT_EQ(twice.g, once.g);
@@ -164,7 +165,7 @@ TEST(LayoutTest, MovesNothingElse) {
   for (const MovedControl& control : MovedControls()) moved.insert(control.id);
   EXPECT_EQ(moved, (std::set<int>{chkAutoStop, chkTurnBack, fr_Mous, lblStatus, fr_Help, lblMsg,
                                   txtStatus, frCenter, imgSplitter, picSplitter, chkDetail,
-                                  txtCount, txtWin1, txtWin2}));
+                                  txtCount, txtWin1, txtWin2, lblListKind}));
 }
 
 TEST(SplitterPositionTest, KeepsItsDistance) {

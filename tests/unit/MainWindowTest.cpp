@@ -121,7 +121,7 @@ class MainWindowTest : public testing::Test {
     return saved_ && !std::filesystem::exists(ConfigurationFile());
   }
 
-  // Here the program ends; in a test what follows in its code is still run.
+  // The program ends here; in a test the code after it still runs.
   void EndProgram() {
     ++ended_;
     saved_ = ConfigurationWasWritten();
@@ -167,7 +167,7 @@ TEST_F(MainWindowTest, ANewDpiScalesEverything) {
   metrics.cbSize = sizeof metrics;
   SystemParametersInfoForDpi(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0, 144);
   EXPECT_EQ(font.lfHeight, metrics.lfMessageFont.lfHeight);
-  // Laid out anew: the right edge is kept.
+  // Laid out again: the right edge is kept.
   RECT inner{};
   GetClientRect(window_->Handle(), &inner);
   EXPECT_EQ(Place(chkAutoStop).right, inner.right);
@@ -190,16 +190,16 @@ TEST_F(MainWindowTest, ANewSizeLeavesItInFrontOrNot) {
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   RECT inner{};
   GetClientRect(window_->Handle(), &inner);
-  ASSERT_EQ(Place(chkAutoStop).right, inner.right);  // laid out anew
+  ASSERT_EQ(Place(chkAutoStop).right, inner.right);  // laid out again
   EXPECT_FALSE(IsTopmost());
 }
 
-TEST_F(MainWindowTest, TellsWhatTheButtonDoes) {
+TEST_F(MainWindowTest, TheTipOfTheButtonNamesItsAction) {
   Load("");
   EXPECT_EQ(Tip(cmdGo), L"Velmora列取得開始");
 }
 
-TEST_F(MainWindowTest, LinksTellTheirAddressesInTheirTips) {
+TEST_F(MainWindowTest, TipsOfLinksShowTheirAddresses) {
   Load("");
   EXPECT_EQ(Tip(Help_Url), HelpAddress(folder_.Path().wstring()));
   EXPECT_EQ(Tip(MyUrl), HomeAddress(folder_.Path().wstring()));
@@ -213,9 +213,20 @@ TEST_F(MainWindowTest, APanesTipCountsItsCharacters) {
   constexpr std::wstring_view kCounts =
       L"字数:6(4) 改行:1 8byte  全角:1(1) 半角:4(3) 全SP:0 半SP:1 タブ:0";
   EXPECT_EQ(Tip(txtWinTextT0), kCounts);
-  // The other member of the pair takes over the text, and so the count.
+  // The other member of the pair gets the text, and so the count.
   SendMessageW(Control(chkTurnBack), BM_CLICK, 0, 0);
   EXPECT_EQ(Tip(txtWinTextT1), kCounts);
+}
+
+TEST_F(MainWindowTest, OfATextThatWasCutTheTipCountsWhatIsShown) {
+  Load("to file = 0\n");
+  state_.TopTexts[2].assign(70'000, L'a');
+  SendMessageW(Control(chkDetail), BM_CLICK, 0, 0);
+  SendMessageW(Control(chkDetail), BM_CLICK, 0, 0);
+  // 65,000 of them, and the lines about the cut.
+  EXPECT_EQ(Tip(txtWinTextT0),
+            L"字数:65084(65079) 改行:4 65099byte  全角:11(10) 半角:65069(65069) 全SP:1 半SP:0 "
+            L"タブ:0");
 }
 
 TEST_F(MainWindowTest, TextsThatStayAsTheyAreKeepTheirSelection) {
@@ -323,10 +334,43 @@ TEST_F(MainWindowTest, AnythingButZeroTicksABox) {
     EXPECT_EQ(BoxValue(Control(id)), 1) << id;
   }
   EXPECT_EQ(settings_.turnBack, 1);
-  EXPECT_EQ(settings_.detail, 1);
-  EXPECT_EQ(settings_.autoStop, 1);
   EXPECT_TRUE(IsShown(txtWinTextT1));
   EXPECT_FALSE(IsShown(txtWinTextT0));
+}
+
+TEST_F(MainWindowTest, OnlyAClickMakesASettingZeroOrOne) {
+  Load("detail = -1\nauto stop = 2\n");
+  EXPECT_EQ(settings_.detail, -1);
+  EXPECT_EQ(settings_.autoStop, 2);
+  for (const std::int32_t expected : {0, 1}) {
+    SendMessageW(Control(chkDetail), BM_CLICK, 0, 0);
+    EXPECT_EQ(settings_.detail, expected);
+    EXPECT_EQ(settings_.autoStop, expected == 0 ? 2 : 0);
+    SendMessageW(Control(chkAutoStop), BM_CLICK, 0, 0);
+    EXPECT_EQ(settings_.autoStop, expected);
+  }
+}
+
+TEST_F(MainWindowTest, LeavingDebugModeTakesEveryMarkAwayAndNamesTheHotKeyAlone) {
+  Load("action test = 1\nhotkey = F7\n");
+  state_.DebugMode = true;
+  SetWindowTextW(window_->Handle(), L"a - debug b - debug - debug");
+  DoubleClick(lblMsg, STN_DBLCLK);
+  EXPECT_EQ(WindowText(window_->Handle()), L"a b");
+  EXPECT_EQ(WindowText(Control(lblStatus)), L"F7で停止");
+  EXPECT_EQ(WindowText(Control(lblMsg)), L"F7で停止");
+  EXPECT_FALSE(state_.DebugMode);
+}
+
+TEST_F(MainWindowTest, TheStartTimerRunsOnce) {
+  Load("auto start = 1\n");
+  const UINT_PTR timer = static_cast<UINT_PTR>(capture::CaptureTimer::Timer_Go) + 1;
+  // The capture is stopped with the button in its first pump.
+  PostMessageW(window_->Handle(), WM_COMMAND, MAKEWPARAM(cmdGo, BN_CLICKED),
+               reinterpret_cast<LPARAM>(Control(cmdGo)));
+  Tick(capture::CaptureTimer::Timer_Go);
+  EXPECT_NE(state_.CaptureStartTick, 0U);
+  EXPECT_FALSE(KillTimer(window_->Handle(), timer));  // it does not exist any more
 }
 
 TEST_F(MainWindowTest, APaneHoldsAsMuchAsItIsGiven) {

@@ -28,7 +28,7 @@ TEST(MarkerPlaceTest, GoesBeyondTheScreen) {
   EXPECT_EQ(Place(2, {1279, 1023}), std::pair(1281L, 1025L));
 }
 
-// What the system asks and tells while markers are worked with.
+// What the system reports while markers are used.
 class Watch {
  public:
   Watch()
@@ -94,7 +94,7 @@ std::vector<HWND> Handles(const Markers& markers) {
   return handles;
 }
 
-TEST(MarkersTest, AreLoadedWhenNeededFirstAndForgottenWhenUnloaded) {
+TEST(MarkersTest, AreLoadedOnFirstUseAndForgottenWhenUnloaded) {
   Markers markers;
   EXPECT_THAT(Handles(markers), testing::Each(nullptr));
   markers.Show(false);

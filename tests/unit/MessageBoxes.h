@@ -1,4 +1,4 @@
-// Notes the message boxes of a test instead of showing them: "title|text".
+// Records the message boxes of a test instead of showing them: "title|text".
 #pragma once
 
 #include <string>

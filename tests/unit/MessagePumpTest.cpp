@@ -57,7 +57,7 @@ TEST_F(MessagePumpTest, TheTabKeyMovesBetweenControls) {
   EXPECT_EQ(GetFocus(), second);
 }
 
-TEST_F(MessagePumpTest, TheOrderToQuitIsLeftForTheLoop) {
+TEST_F(MessagePumpTest, TheQuitMessageIsLeftForTheLoop) {
   PostQuitMessage(7);
   Pump();
   EXPECT_EQ(RunMessageLoop(), 7);

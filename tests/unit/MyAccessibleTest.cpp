@@ -1,4 +1,4 @@
-// Member readers on objects of the test's own, which note how they are asked.
+// Readers of members on the test's own objects, which record the calls.
 
 #include "accessibility/MyAccessible.h"
 
@@ -67,7 +67,7 @@ TEST(MyAccessibleTest, MembersAreReadForTheChildThatIsMeant) {
   EXPECT_EQ(place.height, 40);
 }
 
-TEST(MyAccessibleTest, WhatFailsIsEmptyAndSilent) {
+TEST(MyAccessibleTest, FailingMembersAreEmptyAndSilent) {
   std::vector<std::wstring> boxes;
   const auto before = platform::SetMessageBox(
       [&](const std::wstring& text, const std::wstring&) { boxes.push_back(text); });
@@ -110,7 +110,7 @@ TEST(MyAccessibleTest, ARoleTextThatCannotBeReadIsReported) {
   EXPECT_THAT(titles, ElementsAre(L"GetAccRoleText"));
 }
 
-TEST(MyAccessibleTest, FocusTellsWhetherThereIsOne) {
+TEST(MyAccessibleTest, FocusSaysWhetherThereIsOne) {
   Node object = Button();
   EXPECT_EQ(AccFocus(&object), L"0");
   object.hasFocus = true;
@@ -171,7 +171,7 @@ TEST(MyAccessibleTest, ParentsAndHeldObjectsAreCountedOnce) {
   EXPECT_EQ(ObjectIn(Number(1)), nullptr);
 }
 
-// Gives away a node for its client area, and notes what it was asked for.
+// Answers with a node for its client area, and records the request.
 struct AskedWindow {
   static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wParam,
                                     LPARAM lParam) noexcept {

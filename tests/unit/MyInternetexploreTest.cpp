@@ -62,12 +62,12 @@ class MyInternetexploreTest : public testing::Test {
   std::vector<std::wstring> said_;
 };
 
-TEST_F(MyInternetexploreTest, TheDocumentIsAskedForUnderNoIdentifier) {
+TEST_F(MyInternetexploreTest, TheDocumentIsRequestedUnderTheAllZeroIdentifier) {
   EXPECT_EQ(Document().Get(), &page_.Top());
   EXPECT_THAT(fake_.calls, ElementsAre(kRegister, kSend, kNull));
 }
 
-TEST_F(MyInternetexploreTest, AndByItsNameWhereThatIsRefused) {
+TEST_F(MyInternetexploreTest, WhenThatIsRefusedTheDocumentsInterfaceIsRequested) {
   fake_.refusesNull = true;
   EXPECT_EQ(Document().Get(), &page_.Top());
   EXPECT_THAT(fake_.calls, ElementsAre(kRegister, kSend, kNull, kSend, kByName));
@@ -114,7 +114,7 @@ TEST_F(MyInternetexploreTest, AMessageThatCannotBeRegisteredIsReported) {
                                  L"\r\nError Line = 0");
 }
 
-TEST_F(MyInternetexploreTest, WhateverElseFailsIsReportedToo) {
+TEST_F(MyInternetexploreTest, OtherFailuresAreReportedToo) {
   fake_.onSend = [] { throw std::bad_alloc(); };
   EXPECT_EQ(Document(), nullptr);
   ASSERT_EQ(boxes_.shown.size(), 1U);
@@ -127,7 +127,7 @@ TEST_F(MyInternetexploreTest, TheElementIsThatOfTheWindowAtThePoint) {
   EXPECT_EQ(GetElIdOrName(ByPos(112, 213).Get()), L"text");
   EXPECT_THAT(fake_.calls,
               ElementsAre("window at 112,213", "place of 7", kRegister, kSend, kNull, "pointer"));
-  // Without frames, one question for each of the two points.
+  // Without frames, one call for each of the two points.
   EXPECT_THAT(
       page_.watch.calls,
       ElementsAre("document http://host/.elementFromPoint 12,13", "P#text.tagName",
@@ -135,7 +135,7 @@ TEST_F(MyInternetexploreTest, TheElementIsThatOfTheWindowAtThePoint) {
   EXPECT_THAT(said_, IsEmpty());
 }
 
-TEST_F(MyInternetexploreTest, AWindowWithoutADocumentIsSaid) {
+TEST_F(MyInternetexploreTest, AWindowWithoutADocumentIsReported) {
   fake_.answer = 0;
   EXPECT_EQ(ByPos(1, 2), nullptr);
   EXPECT_THAT(said_, ElementsAre(L"GetElByPos:Generate Html-DOC failed"));
@@ -148,7 +148,7 @@ TEST_F(MyInternetexploreTest, NoErrorIsAddedToThatText) {
   EXPECT_EQ(boxes_.shown.size(), 1U);
 }
 
-TEST_F(MyInternetexploreTest, APageWithoutAnElementThereIsNotSaid) {
+TEST_F(MyInternetexploreTest, APageWithoutAnElementThereIsNotReported) {
   fake_.pointer = {500, 500};
   EXPECT_EQ(ByPos(500, 500), nullptr);
   EXPECT_THAT(said_, IsEmpty());

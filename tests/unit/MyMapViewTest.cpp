@@ -106,7 +106,7 @@ TEST_F(MyMapViewTest, EmulationMeansA64BitSystem) {
   EXPECT_FALSE(IsWin64(memory)) << "the question fails";
 }
 
-TEST_F(MyMapViewTest, TheRealSystemAnswersAsItsFoldersTell) {
+TEST_F(MyMapViewTest, TheRealSystemMatchesItsFolders) {
   wchar_t folder[MAX_PATH] = {};
   const bool has64 = GetSystemWow64DirectoryW(folder, MAX_PATH) != 0;
   EXPECT_EQ(IsWin64(SystemMemoryCalls()), has64);
@@ -152,7 +152,7 @@ TEST_F(MyMapViewTest, AMissingMappingIsMadeAndEmptied) {
   EXPECT_EQ(memory.blocks[0][1024], 0x7F);
 }
 
-TEST_F(MyMapViewTest, EveryFailureOfAMappingIsToldAndGivesNoView) {
+TEST_F(MyMapViewTest, EveryFailureOfAMappingIsReportedAndGivesNoView) {
   struct Case {
     const char* what;
     void (*spoil)(FakeMemory&);
@@ -250,7 +250,7 @@ TEST_F(TargetBlockTest, AnOlderSystemWithoutAMappingGivesNoBlock) {
   EXPECT_EQ(memory.calls.size(), 2U) << "nothing is closed";
 }
 
-TEST_F(TargetBlockTest, ALostTargetIsTold) {
+TEST_F(TargetBlockTest, ALostTargetThrows) {
   FakeMemory memory;
   extract::TargetBlock block(memory, 77, kSize);
   memory.lost = true;

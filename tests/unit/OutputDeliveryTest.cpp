@@ -40,17 +40,17 @@ TEST(RedisplayPanesTest, ShowsTheChosenTexts) {
   FakeCapture fake;
   fake.state.TopTexts = {L"t0", L"t1", L"t2"};
   fake.state.BottomTexts = {L"", L"b1", L"b2", L"b3"};
-  RedisplayPanes(fake.state, fake.settings, fake.view);
+  PaneDelivery(fake.view).RedisplayPanes(fake.state, fake.settings);
   EXPECT_EQ(fake.view.texts[ViewText::TopPane], L"t2");
   EXPECT_EQ(fake.view.texts[ViewText::BottomPane], L"b2");
 
   fake.settings.dispText = 1;
   fake.state.BottomTexts[0] = L"1";
-  RedisplayPanes(fake.state, fake.settings, fake.view);
+  PaneDelivery(fake.view).RedisplayPanes(fake.state, fake.settings);
   EXPECT_EQ(fake.view.texts[ViewText::BottomPane], L"b3");
 
   fake.settings.detail = 1;
-  RedisplayPanes(fake.state, fake.settings, fake.view);
+  PaneDelivery(fake.view).RedisplayPanes(fake.state, fake.settings);
   EXPECT_EQ(fake.view.texts[ViewText::TopPane], L"t1");
   EXPECT_EQ(fake.view.texts[ViewText::BottomPane], L"b1");
 }
@@ -62,13 +62,34 @@ TEST(RedisplayPanesTest, BothPanesNameTheSameFile) {
   // The file is named in the shown text only when it is written, so it is written: to the desktop
   // of the test's own prefix.
   fake.settings.toFile = 1;
-  RedisplayPanes(fake.state, fake.settings, fake.view);
+  PaneDelivery(fake.view).RedisplayPanes(fake.state, fake.settings);
   for (const ViewText pane : {ViewText::TopPane, ViewText::BottomPane}) {
-    EXPECT_NE(fake.view.texts[pane].find(kOverflowFile), std::wstring::npos);
+    EXPECT_NE(fake.view.texts[pane].find(kTopOverflowFile), std::wstring::npos);
   }
   EXPECT_FALSE(std::filesystem::exists(std::filesystem::path(DesktopFolder()) /
                                        L"文字数オーバー下段(Velmora).txt"));
-  std::filesystem::remove(std::filesystem::path(DesktopFolder()) / kOverflowFile);
+  std::filesystem::remove(std::filesystem::path(DesktopFolder()) / kTopOverflowFile);
+}
+
+TEST(RefreshBottomPaneTest, LeavesTheTopPaneAndHasAFileOfItsOwn) {
+  FakeCapture fake;
+  const TemporaryFolder folder;
+  fake.view.texts[ViewText::TopPane] = L"before";
+  fake.state.TopTexts[2] = L"t2";
+  fake.state.BottomTexts = {L"1", L"b1", std::wstring(kOverlong, L'b'), L"b3"};
+  fake.settings.toFile = 1;
+  PaneDelivery delivery(fake.view, [&] { return folder.Path().wstring(); });
+  delivery.RefreshBottomPane(fake.state, fake.settings);
+  EXPECT_EQ(fake.view.texts[ViewText::TopPane], L"before");
+  EXPECT_NE(
+      fake.view.texts[ViewText::BottomPane].find(L"「文字数オーバー下段(Velmora).txt」に\r\n"),
+      std::wstring::npos);
+  EXPECT_TRUE(std::filesystem::exists(folder.Path() / L"文字数オーバー下段(Velmora).txt"));
+  EXPECT_FALSE(std::filesystem::exists(folder.Path() / kTopOverflowFile));
+
+  fake.settings.dispText = 1;
+  delivery.RefreshBottomPane(fake.state, fake.settings);
+  EXPECT_EQ(fake.view.texts[ViewText::BottomPane], L"b3");
 }
 
 class PutPaneTextTest : public testing::Test {
@@ -85,8 +106,7 @@ class PutPaneTextTest : public testing::Test {
   ~PutPaneTextTest() override { platform::SetMessageBox(before_); }
 
   void Put(const std::wstring& text, std::int32_t toFile) {
-    PutPaneText(fake_.view, ViewText::TopPane, text, toFile, L"長い.txt",
-                [this] { return desktop_; });
+    delivery_.PutPaneText(ViewText::TopPane, text, toFile, L"長い.txt");
   }
   std::wstring Shown() { return fake_.view.texts[ViewText::TopPane]; }
   std::filesystem::path File() { return std::filesystem::path(desktop_) / L"長い.txt"; }
@@ -94,6 +114,7 @@ class PutPaneTextTest : public testing::Test {
   FakeCapture fake_;
   TemporaryFolder folder_;
   std::wstring desktop_ = folder_.Path().wstring();
+  PaneDelivery delivery_{fake_.view, [this] { return desktop_; }};
   std::wstring boxText_;
   std::wstring boxTitle_;
   int boxes_ = 0;
@@ -181,6 +202,41 @@ TEST_F(PutPaneTextTest, AMissingDesktopIsReportedAndThePaneKept) {
             L"\r\n"
             L"ファイル出力を停止するには、\r\n"
             L"[設定]→[その他]→[制限文字数超過時にファイル出力] をオフにして下さい。");
+}
+
+TEST_F(PutPaneTextTest, OneDeliveryReportsEachTextOnce) {
+  desktop_ = L"Z:\\無い\\場所";
+  const std::wstring text(65'535, L'a');
+  for (int i = 0; i < 3; ++i) Put(text, 1);
+  EXPECT_EQ(boxes_, 1);
+  Put(text + L"b", 1);
+  EXPECT_EQ(boxes_, 2);
+  EXPECT_EQ(Shown(), L"before");
+  PaneDelivery next(fake_.view, [this] { return desktop_; });
+  next.PutPaneText(ViewText::TopPane, text, 1, L"長い.txt");
+  EXPECT_EQ(boxes_, 3);
+}
+
+TEST_F(PutPaneTextTest, OneDeliveryWritesEachTextOnce) {
+  const std::wstring text(65'535, L'a');
+  Put(text, 1);
+  const std::wstring shown = Shown();
+  std::ofstream(File(), std::ios::trunc) << "changed since";
+  fake_.view.texts[ViewText::TopPane].clear();
+  Put(text, 1);
+  EXPECT_EQ(Shown(), shown);
+  EXPECT_EQ(std::filesystem::file_size(File()), 13U);
+  // The same length, but another text.
+  Put(std::wstring(65'535, L'b'), 1);
+  EXPECT_EQ(std::filesystem::file_size(File()), 65'537U);
+}
+
+TEST_F(PutPaneTextTest, ATextIsWrittenToEachOfItsFiles) {
+  const std::wstring text(65'535, L'a');
+  Put(text, 1);
+  delivery_.PutPaneText(ViewText::BottomPane, text, 1, L"下.txt");
+  EXPECT_EQ(std::filesystem::file_size(File()), 65'537U);
+  EXPECT_EQ(std::filesystem::file_size(std::filesystem::path(desktop_) / L"下.txt"), 65'537U);
 }
 
 TEST_F(PutPaneTextTest, AFileThatCannotBeWrittenLeavesThePaneSilently) {

@@ -9,6 +9,7 @@
 #include <iterator>
 #include <string>
 
+#include "NoMemory.h"
 #include "platform/API_Shell.h"
 #include "platform/Clipboard.h"
 #include "platform/ComOwners.h"
@@ -19,8 +20,8 @@
 namespace platform {
 namespace {
 
-// Texts that every code page holds, in any length around the size of a piece.
-TEST(CodePageTest, PlainTextsGoThereAndBack) {
+// Texts that every code page contains, with lengths around the size of a piece.
+TEST(CodePageTest, PlainTextsAreConvertedToTheCodePageAndBack) {
   for (const std::size_t length : {0U, 1U, 1000U, (1U << 20) - 1, 1U << 20, (1U << 20) + 1}) {
     std::wstring text;
     for (std::size_t i = 0; i < length; ++i) text += static_cast<wchar_t>(L' ' + i % 95);
@@ -41,7 +42,7 @@ TEST(CodePageTest, EmbeddedZeroCharactersStay) {
   EXPECT_EQ(FromAnsi(std::string("a\0b", 3)), text);
 }
 
-// Letters with the bytes that they have in that page and in no other.
+// Letters with bytes that differ between the pages.
 struct PageLetters {
   UINT codePage;
   const wchar_t* text;
@@ -59,7 +60,7 @@ TEST(CodePageTest, LettersHaveTheBytesOfTheSystemsPage) {
   EXPECT_EQ(FromAnsi(letters->bytes), letters->text);
 }
 
-TEST(TextCodecTest, NoCharacterIsTornWhereALongTextIsCutIntoPieces) {
+TEST(TextCodecTest, LongTextsAreNotCutInsideACharacter) {
   if (GetACP() != 932) GTEST_SKIP() << "holds in code page 932";
   for (const std::size_t shift : {0U, 1U}) {
     std::wstring text(shift, L'x');
@@ -138,7 +139,7 @@ TEST(ComPtrTest, ReceivingAnObjectCountsItOnce) {
   Counted object;
   {
     Microsoft::WRL::ComPtr<IUnknown> owner;
-    *owner.GetAddressOf() = &object;  // as a call hands out its result
+    *owner.GetAddressOf() = &object;  // as a call returns its result
     EXPECT_EQ(object.count, 1U);
     const Microsoft::WRL::ComPtr<IUnknown> second = owner;
     EXPECT_EQ(object.count, 2U);
@@ -163,7 +164,7 @@ TEST(ShellTest, FindsSpecialFolders) {
   EXPECT_EQ(API_Shell::FolderPath(0x3F), L"");
 }
 
-TEST(ShellTest, PlaysToTheEndOrOverAndOver) {
+TEST(ShellTest, SoundFlagsPlayToTheEndOrRepeat) {
   EXPECT_EQ(API_Shell::SoundFlags(false), 0U);
   EXPECT_EQ(API_Shell::SoundFlags(true), 8U);
 }
@@ -173,7 +174,7 @@ TEST(ShellTest, OpensAddressesWithTheExplorer) {
             L"explorer.exe file:///C:/a b/help/index.html#about");
 }
 
-// Owns nothing visible; the clipboard is opened in its name.
+// An invisible window that opens the clipboard.
 UniqueWindow ClipboardOwner() {
   return UniqueWindow(
       CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr));
@@ -197,6 +198,19 @@ TEST(ClipboardTest, TakesTextsAsTheyAre) {
     EXPECT_TRUE(PutTextOnClipboard(owner.Get(), text));
     EXPECT_EQ(ClipboardText(owner.Get()), text);
   }
+}
+
+TEST(ClipboardTest, StaysAsItIsWhenThereIsNoMemory) {
+  const UniqueWindow owner = ClipboardOwner();
+  ASSERT_TRUE(PutTextOnClipboard(owner.Get(), L"before"));
+  const std::wstring text(4'000'000, L'a');
+  bool put = true;
+  {
+    const NoMemory none;
+    put = PutTextOnClipboard(owner.Get(), text);
+  }
+  EXPECT_FALSE(put);
+  EXPECT_EQ(ClipboardText(owner.Get()), L"before");
 }
 
 TEST(ClipboardTest, StaysAsItIsWhileAnotherWindowHasItOpen) {
@@ -257,7 +271,7 @@ TEST_F(AbsolutePathTest, ABaseThatIsNoFolderGetsNoBackslash) {
   EXPECT_EQ(API_Shell::AbsolutePath(L"a.txt", L"Q:\\none"), L"Q:\\nonea.txt");
 }
 
-TEST_F(AbsolutePathTest, QuotesGoAndComeBackWhereABlankNeedsThem) {
+TEST_F(AbsolutePathTest, QuotesAreRemovedAndAddedForABlank) {
   EXPECT_EQ(At(L"\"a.txt\""), L"C:\\windows\\a.txt");
   EXPECT_EQ(At(L"\"a b.txt\""), L"\"C:\\windows\\a b.txt\"");
   EXPECT_EQ(At(L"a b.txt"), L"\"C:\\windows\\a b.txt\"");

@@ -43,7 +43,9 @@ class FakeSources : public PointSources {
 class PointTextTest : public testing::Test {
  protected:
   std::wstring Read(bool firstLineOnly = false) {
-    return TextAtPoint(sources_, L"edit,DirectUIHWND", firstLineOnly, method_);
+    TextReading reading = TextAtPoint(sources_, L"edit,DirectUIHWND", firstLineOnly);
+    method_ = std::move(reading.method);
+    return std::move(reading.text);
   }
 
   FakeSources sources_;
@@ -58,7 +60,7 @@ TEST_F(PointTextTest, TakesTheElementsValueFirst) {
   EXPECT_THAT(sources_.asked, ElementsAre("element"));
 }
 
-TEST_F(PointTextTest, ElseItsInnerText) {
+TEST_F(PointTextTest, AnElementWithoutAValueGivesItsInnerText) {
   sources_.className = L"Internet Explorer_Server";
   sources_.element = ElementTexts{L"", L"P", L"中"};
   EXPECT_EQ(Read(), L"中");
@@ -79,7 +81,7 @@ TEST_F(PointTextTest, AListItemsValueOfZeroIsNone) {
   EXPECT_EQ(Read(), L"00");
 }
 
-TEST_F(PointTextTest, AnEmptyElementLeadsOnToTheOtherSources) {
+TEST_F(PointTextTest, WithAnEmptyElementTheOtherSourcesAreUsed) {
   sources_.className = L"Internet Explorer_Server";
   sources_.element = ElementTexts{};
   sources_.name = L"名前";
@@ -93,7 +95,7 @@ TEST_F(PointTextTest, AnEmptyElementLeadsOnToTheOtherSources) {
   EXPECT_EQ(method_, L"");
 }
 
-TEST_F(PointTextTest, ADocumentsWindowThatHangsIsAskedNothingMore) {
+TEST_F(PointTextTest, OfAHungDocumentsWindowNothingElseIsRead) {
   sources_.className = L"Internet Explorer_Server";
   sources_.answers = false;
   sources_.name = L"名前";
@@ -119,7 +121,7 @@ TEST_F(PointTextTest, ListedClassesGiveTheirValue) {
   EXPECT_THAT(sources_.asked, ElementsAre("value"));
 }
 
-TEST_F(PointTextTest, AndTheirNameWhenThereIsNoValue) {
+TEST_F(PointTextTest, ListedClassesWithoutAValueGiveTheirName) {
   sources_.className = L"Edit";
   sources_.name = L"名前";
   EXPECT_EQ(Read(), L"名前");
@@ -146,6 +148,14 @@ TEST_F(PointTextTest, TheWindowTextIsTheLastResort) {
   sources_.text = L"文字\r\n列";
   EXPECT_EQ(Read(true), L"文字\r\n列");
   EXPECT_EQ(method_, L"WM_GETTEXT");
+}
+
+TEST_F(PointTextTest, WithoutADocumentTheWindowTextIsTheLastResortToo) {
+  sources_.className = L"Internet Explorer_Server";
+  sources_.text = L"文字";
+  EXPECT_EQ(Read(), L"文字");
+  EXPECT_EQ(method_, L"WM_GETTEXT");
+  EXPECT_THAT(sources_.asked, ElementsAre("element", "name", "text"));
 }
 
 TEST_F(PointTextTest, NothingLeavesAnEmptyMethod) {

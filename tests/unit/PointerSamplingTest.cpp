@@ -37,7 +37,7 @@ TEST_F(PointerSamplingTest, ReadsBesideThePointerWhenShifted) {
   EXPECT_EQ(fake_.state.CapturePoint.y, 48);
   EXPECT_EQ(fake_.system.askedAt.x, 275);
   EXPECT_EQ(fake_.system.askedAt.y, 48);
-  // The pointer itself is what is shown.
+  // The position of the pointer itself is shown.
   EXPECT_EQ(Shown(), L" 300- 40");
 }
 

@@ -1,4 +1,4 @@
-// A long list costs the memory of its text and hardly more, however it is read.
+// Reading a long list needs the memory of its text and hardly more.
 #include <windows.h>
 
 #include <commctrl.h>
@@ -11,6 +11,7 @@
 #include <new>
 #include <string>
 
+#include "../ReadItems.h"
 #include "FakeTarget.h"
 #include "extract/ListBoxItems.h"
 #include "extract/ListViewItems.h"
@@ -36,7 +37,7 @@ void Free(void* block) noexcept {
 
 }  // namespace
 
-// All of this program's memory goes through these.
+// All memory of this program is allocated by these.
 void* operator new(std::size_t size) { return Allocate(size); }
 void* operator new[](std::size_t size) { return Allocate(size); }
 void operator delete(void* block) noexcept { Free(block); }
@@ -51,11 +52,11 @@ constexpr int kRows = 100'000;
 constexpr int kColumns = 3;
 constexpr char kCell[] = "a cell of 24 characters.";
 constexpr wchar_t kItem[] = L"an item of 24 characters";
-// A string that grows is copied into one of twice its size, and holds both meanwhile.
+// A string that grows is copied into one of twice its size, and both exist meanwhile.
 constexpr std::size_t kWhileGrowing = 3;
 constexpr std::size_t kBesidesText = 200'000;
 
-// Answers and keeps no notes: those would count as memory of the reading.
+// Answers without a record, which would count as memory of the reading.
 class PlainMessages : public ControlMessages {
  public:
   std::int32_t Send(HWND, UINT message, WPARAM, LPARAM lParam) override {
@@ -127,16 +128,21 @@ TEST_F(ReadingMemoryTest, OfAListView) {
   const std::size_t row = kColumns * std::strlen(kCell) + (kColumns - 1) + 2;
   ExpectMemoryOfTheText(
       [&] {
-        return GetListViewItem(
-            target_, Session(), method_, 0, [](HWND) { return std::wstring(); }, Access());
+        return TextOf(
+            [this](platform::ItemSink& sink) {
+              return GetListViewItem(
+                  target_, Session(), sink, 0, [](platform::ItemSink&) {}, Access());
+            },
+            method_);
       },
       kRows * row);
 }
 
 TEST_F(ReadingMemoryTest, OfAListBox) {
   const std::size_t row = std::size(kItem) - 1 + 2;
-  ExpectMemoryOfTheText([&] { return MyGetListBoxItem(target_, Session(), method_, Access()); },
-                        kRows * row);
+  ExpectMemoryOfTheText(
+      [&] { return ReadText(MyGetListBoxItem, target_, Session(), method_, Access()); },
+      kRows * row);
 }
 
 }  // namespace

@@ -10,7 +10,7 @@ namespace {
 constexpr POINT kHere{100, 200};
 constexpr POINT kThere{101, 200};
 
-// A tracker as a loop drives it: one pass after the other, each ending at a tick.
+// A tracker as a loop uses it: pass after pass, each ending at a tick.
 class RestTrackerTest : public testing::Test {
  protected:
   std::int32_t Pass(POINT point, std::uint32_t endTick) {
@@ -39,7 +39,7 @@ TEST_F(RestTrackerTest, APointOfTheFirstPassRestsFromItsEnd) {
   EXPECT_EQ(tracker_.StillMs(), 50U);
 }
 
-TEST_F(RestTrackerTest, AlsoWhenThatPointIsTheCornerOfTheScreen) {
+TEST_F(RestTrackerTest, APointInTheCornerOfTheScreenRestsToo) {
   Pass({0, 0}, 1010);
   Pass({0, 0}, 1060);
   EXPECT_EQ(Pass({0, 0}, 1070), kDue);
@@ -50,7 +50,7 @@ TEST_F(RestTrackerTest, EveryMovementStartsTheRestAnew) {
   Pass(kHere, 1040);
   EXPECT_EQ(Pass(kThere, 1050), kMoved);
   Pass(kHere, 1060);
-  // At rest since 1050, where the pass before had ended.
+  // At rest since 1050, where the previous pass ended.
   EXPECT_EQ(Pass(kHere, 1099), kMoved);
   EXPECT_EQ(tracker_.StillMs(), 10U);
   EXPECT_EQ(Pass(kHere, 1100), kMoved);
@@ -78,7 +78,7 @@ TEST_F(RestTrackerTest, OneReportForOneRest) {
   EXPECT_EQ(Pass(kHere, 31'099), kReported);
 }
 
-TEST_F(RestTrackerTest, AnotherAfterThirtySeconds) {
+TEST_F(RestTrackerTest, AnotherReportAfterThirtySeconds) {
   Pass(kHere, 1000);
   Pass(kHere, 1100);
   Pass(kHere, 1110);

@@ -8,8 +8,8 @@
 #include <set>
 #include <vector>
 
+#include "platform/NumberText.h"
 #include "settings/ConfigKeys.h"
-#include "settings/ConfigText.h"
 #include "ui/ControlIds.h"
 
 namespace ui {
@@ -126,7 +126,7 @@ constexpr Words kWords[] = {
     {cmdClose, L"閉じる", L""},
 };
 
-TEST(SettingControlsTest, SaysWhatUsersKnow) {
+TEST(SettingControlsTest, HasTheCaptionsAndTipsThatUsersKnow) {
   for (const Words& words : kWords) {
     const SettingControl* const control = FindSettingControl(words.id);
     ASSERT_NE(control, nullptr) << words.id;
@@ -152,44 +152,10 @@ TEST(SettingControlsTest, ItemsLookAsTheirValuesAreShown) {
     if (control.holds != Holds::ListNumber) continue;
     for (const std::wstring item : control.items) {
       if (item.empty()) continue;
-      EXPECT_EQ(RightAligned(settings::LeadingNumber(item), control.number), item);
+      EXPECT_EQ(platform::RightAligned(std::to_wstring(platform::LeadingNumber(item)),
+                                       static_cast<std::size_t>(control.number)),
+                item);
     }
-  }
-}
-
-TEST(RightAlignedTest, FillsUpWithBlanks) {
-  EXPECT_EQ(RightAligned(5, 2), L" 5");
-  EXPECT_EQ(RightAligned(10, 2), L"10");
-  EXPECT_EQ(RightAligned(10, 4), L"  10");
-  EXPECT_EQ(RightAligned(0, 4), L"   0");
-  EXPECT_EQ(RightAligned(-7, 4), L"  -7");
-}
-
-TEST(RightAlignedTest, NeverCutsANumber) {
-  EXPECT_EQ(RightAligned(123, 2), L"123");
-  EXPECT_EQ(RightAligned(-2147483647 - 1, 4), L"-2147483648");
-}
-
-TEST(KeyFilterTest, DigitsAndBackspacePass) {
-  for (const wchar_t digit : std::wstring(L"0123456789\b")) {
-    EXPECT_TRUE(Accepts(Typing::Digits, digit));
-    EXPECT_TRUE(Accepts(Typing::DigitsAndMinus, digit));
-  }
-  for (const wchar_t other : std::wstring(L"+., aA/:\r\t\x16０５９－")) {
-    EXPECT_FALSE(Accepts(Typing::Digits, other));
-    EXPECT_FALSE(Accepts(Typing::DigitsAndMinus, other));
-  }
-}
-
-TEST(KeyFilterTest, MinusPassesOnlyWhereNumbersMayBeNegative) {
-  EXPECT_FALSE(Accepts(Typing::Digits, L'-'));
-  EXPECT_TRUE(Accepts(Typing::DigitsAndMinus, L'-'));
-}
-
-TEST(KeyFilterTest, AllOrNothing) {
-  for (const wchar_t any : std::wstring(L"0-a\b ")) {
-    EXPECT_FALSE(Accepts(Typing::Nothing, any));
-    EXPECT_TRUE(Accepts(Typing::Anything, any));
   }
 }
 

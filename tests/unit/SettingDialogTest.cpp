@@ -1,9 +1,8 @@
 // The settings dialog in the test's own process: what each control does to the record.
-#include "ui/frmSetting.h"
-
 #include <gtest/gtest.h>
 
 #include "DialogDriving.h"
+#include "SettingDialogFixture.h"
 #include "ui/ControlIds.h"
 
 namespace ui {
@@ -11,33 +10,7 @@ namespace {
 
 using S = settings::Settings;
 
-class SettingDialogTest : public testing::Test {
- protected:
-  SettingDialogTest() {
-    state_.TwipsPerPixelX = 15;
-    state_.TwipsPerPixelY = 15;
-    settings_.settingLeft = 1500;
-    settings_.settingTop = 600;
-    settings_.hotkey = L"F5";
-  }
-
-  void Open() {
-    dialog_.Show(nullptr);
-    ASSERT_NE(dialog_.Handle(), nullptr);
-  }
-  HWND Control(int id) const { return FindControl(dialog_.Handle(), id); }
-  std::wstring Text(int id) const { return WindowText(Control(id)); }
-  // Whether the control itself is shown, on whatever page.
-  bool IsShown(int id) const {
-    return (GetWindowLongPtrW(Control(id), GWL_STYLE) & WS_VISIBLE) != 0;
-  }
-  void CloseBox() { SendMessageW(dialog_.Handle(), WM_CLOSE, 0, 0); }
-
-  S settings_;
-  capture::CaptureState state_;
-  int closed_ = 0;
-  frmSetting dialog_{settings_, state_, [this] { ++closed_; }};
-};
+class SettingDialogTest : public SettingDialogFixture {};
 
 TEST_F(SettingDialogTest, ShowsCaptionsAndTipsOfItsTable) {
   Open();
@@ -75,10 +48,18 @@ TEST_F(SettingDialogTest, PageButtonShowsItsPageAndKeepsIt) {
   }
 }
 
-TEST_F(SettingDialogTest, PageOutOfRangeOpensTheFirst) {
-  settings_.settingNo = 7;
+TEST_F(SettingDialogTest, PageOutOfRangeOpensTheFirstAndStaysUntilOneIsChosen) {
+  for (const std::int32_t page : {7, 4, -1}) {
+    settings_.settingNo = page;
+    Open();
+    EXPECT_TRUE(IsShown(FrList0));
+    EXPECT_EQ(settings_.settingNo, page);
+    Click(Control(cmdClose));
+    EXPECT_EQ(settings_.settingNo, page);
+  }
   Open();
-  EXPECT_TRUE(IsShown(FrList0));
+  Click(Control(lblButton0));
+  EXPECT_EQ(settings_.settingNo, 0);
 }
 
 struct BoxCase {
@@ -120,12 +101,35 @@ TEST_F(SettingDialogTest, AnythingButZeroTicksACheckBox) {
   for (const std::int32_t value : {2, -1}) {
     for (const BoxCase& box : kBoxes) settings_.*box.setting = value;
     Open();
-    EXPECT_TRUE(IsShown(frShift));  // as the ticked box says
-    for (const BoxCase& box : kBoxes) {
-      EXPECT_EQ(BoxValue(Control(box.id)), 1) << box.id;
-      EXPECT_EQ(settings_.*box.setting, 1) << box.id;  // what is seen is what is saved
-    }
+    EXPECT_FALSE(IsShown(frShift));  // only 1 shifts
+    for (const BoxCase& box : kBoxes) EXPECT_EQ(BoxValue(Control(box.id)), 1) << box.id;
     CloseBox();
+  }
+}
+
+TEST_F(SettingDialogTest, OnlyAClickMakesASettingZeroOrOne) {
+  for (const BoxCase& box : kBoxes) settings_.*box.setting = 2;
+  Open();
+  for (const BoxCase& box : kBoxes) {
+    EXPECT_EQ(settings_.*box.setting, 2) << box.id;
+    for (const std::int32_t value : {0, 1}) {
+      Click(Control(box.id));
+      EXPECT_EQ(settings_.*box.setting, value) << box.id;
+    }
+  }
+}
+
+TEST_F(SettingDialogTest, OpeningAndClosingChangesNothing) {
+  for (const std::int32_t value : {-2147483647 - 1, -3, 2, 77, 2147483647}) {
+    for (const SettingControl& control : SettingControls()) {
+      if (control.setting != nullptr) settings_.*control.setting = value;
+    }
+    settings_.settingNo = value;
+    const S before = settings_;
+    Open();
+    EXPECT_EQ(settings_, before) << value;
+    CloseBox();
+    EXPECT_EQ(settings_, before) << value;
   }
 }
 
@@ -160,49 +164,6 @@ TEST_F(SettingDialogTest, OptionsShowTheRecord) {
     for (int value = 0; value < group.count; ++value) {
       EXPECT_EQ(BoxValue(Control(group.first + value)), value == group.count - 1 ? 1 : 0);
     }
-  }
-}
-
-TEST_F(SettingDialogTest, AutoStopIsChosenFromTheList) {
-  settings_.autoStop = 0;
-  Open();
-  ChooseItem(Control(cmbAutoStop), 7);
-  EXPECT_EQ(settings_.autoStopTime, 10);
-  EXPECT_EQ(settings_.autoStop, 0);  // that is the main window's box
-  EXPECT_TRUE(IsShown(chkAutoClose));
-  EXPECT_TRUE(IsShown(chkChime));
-  ChooseItem(Control(cmbAutoStop), 0);
-  EXPECT_EQ(settings_.autoStopTime, 0);
-  EXPECT_FALSE(IsShown(chkAutoClose));
-  EXPECT_FALSE(IsShown(chkChime));
-}
-
-TEST_F(SettingDialogTest, AutoStopIsTyped) {
-  Open();
-  EXPECT_FALSE(IsShown(chkChime));
-  Type(Control(cmbAutoStop), L"x2-5 y");
-  EXPECT_EQ(Text(cmbAutoStop), L"25");
-  EXPECT_EQ(settings_.autoStopTime, 25);
-  EXPECT_TRUE(IsShown(chkChime));
-  Type(Control(cmbAutoStop), L"");
-  EXPECT_EQ(settings_.autoStopTime, 0);
-  EXPECT_FALSE(IsShown(chkChime));
-}
-
-TEST_F(SettingDialogTest, AutoStopIsShownRightAligned) {
-  struct {
-    std::int32_t value;
-    const wchar_t* text;
-    int chosen;
-  } const cases[] = {{0, L"", 0}, {5, L" 5", 5}, {10, L"10", 7}, {8, L" 8", -1}, {120, L"120", -1}};
-  for (const auto& one : cases) {
-    settings_.autoStopTime = one.value;
-    Open();
-    EXPECT_EQ(Text(cmbAutoStop), one.text);
-    EXPECT_EQ(SendMessageW(Control(cmbAutoStop), CB_GETCURSEL, 0, 0), one.chosen);
-    EXPECT_EQ(IsShown(chkAutoClose), one.value != 0);
-    EXPECT_EQ(IsShown(chkChime), one.value != 0);
-    CloseBox();
   }
 }
 
@@ -251,57 +212,6 @@ TEST_F(SettingDialogTest, ClosingLeavesTheShiftBoxToo) {
   EXPECT_EQ(settings_.shifty, -44);
 }
 
-TEST_F(SettingDialogTest, StartNodeIsTheItemsIndex) {
-  settings_.startNode = 2;
-  Open();
-  EXPECT_EQ(SendMessageW(Control(cmbStLevel), CB_GETCURSEL, 0, 0), 2);
-  ChooseItem(Control(cmbStLevel), 4);
-  EXPECT_EQ(settings_.startNode, 4);
-}
-
-TEST_F(SettingDialogTest, CountsAreShownInFourCharacters) {
-  settings_.accnameMax = 50;
-  settings_.parentChildrenMax = 23;
-  Open();
-  EXPECT_EQ(Text(cmbAccNameMax), L"  50");
-  EXPECT_EQ(SendMessageW(Control(cmbAccNameMax), CB_GETCURSEL, 0, 0), 3);
-  EXPECT_EQ(Text(cmbChildMaxCount), L"  23");
-  EXPECT_EQ(SendMessageW(Control(cmbChildMaxCount), CB_GETCURSEL, 0, 0), -1);
-  ChooseItem(Control(cmbAccNameMax), 5);
-  EXPECT_EQ(settings_.accnameMax, 100);
-  ChooseItem(Control(cmbChildMaxCount), 7);
-  EXPECT_EQ(settings_.parentChildrenMax, 9999);
-}
-
-TEST_F(SettingDialogTest, ChildCountTakesNoKeys) {
-  settings_.parentChildrenMax = 10;
-  Open();
-  const HWND box = BoxOfList(Control(cmbChildMaxCount));
-  Type(Control(cmbChildMaxCount), L"12\b");
-  for (const int key : {VK_DOWN, VK_UP, VK_DELETE, VK_END, VK_F4}) {
-    SendMessageW(box, WM_KEYDOWN, static_cast<WPARAM>(key), 0);
-  }
-  SendMessageW(box, WM_CUT, 0, 0);
-  EXPECT_EQ(Text(cmbChildMaxCount), L"  10");
-  EXPECT_EQ(settings_.parentChildrenMax, 10);
-}
-
-TEST_F(SettingDialogTest, OpenListIsWorkedWithTheKeys) {
-  settings_.parentChildrenMax = 10;
-  settings_.settingNo = 2;
-  Open();
-  const HWND list = Control(cmbChildMaxCount);
-  const HWND box = BoxOfList(list);
-  SetFocus(box);
-  SendMessageW(list, CB_SHOWDROPDOWN, TRUE, 0);
-  SendMessageW(box, WM_KEYDOWN, VK_DOWN, 0);
-  SendMessageW(box, WM_KEYDOWN, VK_RETURN, 0);
-  SendMessageW(box, WM_CHAR, L'\r', 0);
-  EXPECT_FALSE(SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0));
-  EXPECT_EQ(settings_.parentChildrenMax, 50);
-  EXPECT_EQ(Text(cmbChildMaxCount), L"  50");
-}
-
 TEST_F(SettingDialogTest, ChangeAsksForANewReportWhileACaptureRuns) {
   Open();
   Click(Control(chkTreeViewIndent));
@@ -329,17 +239,21 @@ TEST_F(SettingDialogTest, CloseButtonKeepsTheCornerForTheNextTime) {
   EXPECT_EQ(place.top, 111);
 }
 
-TEST_F(SettingDialogTest, CloseBoxAndEscLeaveTheOldCorner) {
-  for (int way = 0; way < 2; ++way) {
-    Open();
-    SetWindowPos(dialog_.Handle(), nullptr, 222, 111, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    if (way == 0) CloseBox();
-    if (way == 1) SendMessageW(dialog_.Handle(), WM_COMMAND, IDCANCEL, 0);
-    EXPECT_EQ(dialog_.Handle(), nullptr);
-    EXPECT_EQ(closed_, way + 1);
-    EXPECT_EQ(settings_.settingLeft, 1500);
-    EXPECT_EQ(settings_.settingTop, 600);
-  }
+TEST_F(SettingDialogTest, CloseBoxLeavesTheOldCorner) {
+  Open();
+  SetWindowPos(dialog_.Handle(), nullptr, 222, 111, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+  CloseBox();
+  EXPECT_EQ(dialog_.Handle(), nullptr);
+  EXPECT_EQ(closed_, 1);
+  EXPECT_EQ(settings_.settingLeft, 1500);
+  EXPECT_EQ(settings_.settingTop, 600);
+}
+
+TEST_F(SettingDialogTest, EscLeavesItOpen) {
+  Open();
+  SendMessageW(dialog_.Handle(), WM_COMMAND, IDCANCEL, 0);
+  EXPECT_NE(dialog_.Handle(), nullptr);
+  EXPECT_EQ(closed_, 0);
 }
 
 TEST_F(SettingDialogTest, CloseButtonFollowsTheCorner) {

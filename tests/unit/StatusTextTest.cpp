@@ -1,83 +1,94 @@
-#include "capture/StatusText.h"
+// The status text of real windows: those of the target's program, of the one in front, and of the
+// tabs in that one.
+#include <windows.h>
 
+#include <commctrl.h>
 #include <gtest/gtest.h>
 
-#include <map>
+#include <deque>
+#include <string>
 
-#include "FakeCapture.h"
+#include "platform/UniqueHandle.h"
+#include "report/StatusText.h"
 
-namespace capture {
+namespace report {
 namespace {
 
-// Window 1 is the target in top-level window 2; window 9 is in front.
-class FakeWindows : public StatusWindows {
- public:
-  HWND TopParent(HWND hwnd) override { return hwnd == WindowNumber(1) ? WindowNumber(2) : hwnd; }
-  HWND Foreground() override { return WindowNumber(9); }
-  std::vector<HWND> Descendants(HWND root, std::wstring_view className) override {
-    return className == L"msctls_statusbar32" ? bars[root] : tabs[root];
-  }
-  std::wstring Title(HWND hwnd) override { return titles[hwnd]; }
-  std::wstring Text(HWND hwnd) override {
-    return L"bar " + std::to_wstring(reinterpret_cast<INT_PTR>(hwnd));
-  }
-
-  std::map<HWND, std::vector<HWND>> bars;
-  std::map<HWND, std::vector<HWND>> tabs;
-  std::map<HWND, std::wstring> titles;
-};
+constexpr wchar_t kPlain[] = L"StatusTextTest";
+constexpr wchar_t kTab[] = L"TabWindowClass";
 
 class StatusTextTest : public testing::Test {
  protected:
-  std::wstring Find(std::wstring_view className = L"Edit", std::wstring_view title = L"page") {
-    return FindStatusText(windows_, WindowNumber(1), className, title);
-  }
-  static std::vector<HWND> Numbers(std::initializer_list<int> numbers) {
-    std::vector<HWND> windows;
-    for (const int number : numbers) windows.push_back(WindowNumber(number));
-    return windows;
+  StatusTextTest() {
+    InitCommonControls();
+    for (const wchar_t* const name : {kPlain, kTab}) {
+      WNDCLASSW windowClass{};
+      windowClass.lpfnWndProc = DefWindowProcW;
+      windowClass.hInstance = GetModuleHandleW(nullptr);
+      windowClass.lpszClassName = name;
+      RegisterClassW(&windowClass);
+    }
+    targetsProgram_ = Add(kPlain, L"的の窓", nullptr);
+    inFront_ = Add(kPlain, L"前の窓", nullptr);
+    target_ = Add(kPlain, L"", Add(kPlain, L"", targetsProgram_));
+    SetForegroundWindow(inFront_);
+    EXPECT_EQ(GetForegroundWindow(), inFront_);
   }
 
-  FakeWindows windows_;
+  HWND Add(const wchar_t* className, const wchar_t* text, HWND parent) {
+    const DWORD style = parent != nullptr ? WS_CHILD : WS_OVERLAPPEDWINDOW;
+    windows_.emplace_back(CreateWindowExW(0, className, text, style | WS_VISIBLE, 0, 0, 200, 100,
+                                          parent, nullptr, GetModuleHandleW(nullptr), nullptr));
+    return windows_.back().Get();
+  }
+  HWND AddBar(HWND parent, const wchar_t* text) { return Add(STATUSCLASSNAMEW, text, parent); }
+
+  std::wstring Find(const wchar_t* className = kPlain) const {
+    return FindStatusText({target_, className, L"頁", {}});
+  }
+
+  std::deque<platform::UniqueWindow> windows_;
+  HWND targetsProgram_ = nullptr;
+  HWND inFront_ = nullptr;
+  HWND target_ = nullptr;  // deep in the target's program
 };
 
-TEST_F(StatusTextTest, IsTheOneBarUnderTheTopLevelWindow) {
-  windows_.bars[WindowNumber(2)] = Numbers({30});
-  windows_.bars[WindowNumber(9)] = Numbers({40});
-  EXPECT_EQ(Find(), L"bar 30");
-}
-
-TEST_F(StatusTextTest, ElseTheOneUnderTheForegroundWindow) {
-  windows_.bars[WindowNumber(9)] = Numbers({40});
-  EXPECT_EQ(Find(), L"bar 40");
-  windows_.bars[WindowNumber(2)] = Numbers({30, 31});
-  EXPECT_EQ(Find(), L"bar 40");
-}
-
-TEST_F(StatusTextTest, ElseTheOneInTheTabOfTheSameTitle) {
-  windows_.bars[WindowNumber(9)] = Numbers({40, 41});
-  windows_.tabs[WindowNumber(9)] = Numbers({50, 51, 52});
-  windows_.titles[WindowNumber(50)] = L"other";
-  windows_.titles[WindowNumber(51)] = L"page";
-  windows_.bars[WindowNumber(50)] = Numbers({60});
-  windows_.bars[WindowNumber(51)] = Numbers({61});
-  EXPECT_EQ(Find(), L"bar 61");
-  EXPECT_EQ(Find(L"Edit", L"none"), L"");
-}
-
-TEST_F(StatusTextTest, ElseThereIsNone) {
-  EXPECT_EQ(Find(), L"");
-  windows_.tabs[WindowNumber(9)] = Numbers({50});
-  windows_.titles[WindowNumber(50)] = L"page";
-  windows_.bars[WindowNumber(50)] = Numbers({60, 61});
-  EXPECT_EQ(Find(), L"");
+TEST_F(StatusTextTest, TheBarMayLieDeepInTheTargetsProgram) {
+  AddBar(inFront_, L"前");
+  AddBar(Add(kPlain, L"", targetsProgram_), L"的");
+  EXPECT_EQ(Find(), L"的");
 }
 
 TEST_F(StatusTextTest, UnderAMenuTheSearchStartsAtTheForegroundWindow) {
-  windows_.bars[WindowNumber(2)] = Numbers({30});
-  windows_.bars[WindowNumber(9)] = Numbers({40});
-  EXPECT_EQ(Find(L"#32768"), L"bar 40");
+  AddBar(inFront_, L"前");
+  AddBar(targetsProgram_, L"的");
+  EXPECT_EQ(Find(L"#32768"), L"前");
+}
+
+TEST_F(StatusTextTest, WithoutAnyBarThereIsNoText) {
+  EXPECT_EQ(Find(), L"");
+  EXPECT_EQ(FindStatusText({}), L"");
+}
+
+TEST_F(StatusTextTest, OfTwoBarsNoneIsRead) {
+  AddBar(targetsProgram_, L"一");
+  AddBar(Add(kPlain, L"", targetsProgram_), L"二");
+  EXPECT_EQ(Find(), L"");
+  AddBar(Add(kPlain, L"", inFront_), L"前");
+  EXPECT_EQ(Find(), L"前");
+}
+
+TEST_F(StatusTextTest, WithTwoBarsInFrontTheTabWithTheTargetsTitleCounts) {
+  AddBar(targetsProgram_, L"一");
+  AddBar(targetsProgram_, L"二");
+  AddBar(Add(kTab, L"別の頁", inFront_), L"別");
+  const HWND tab = Add(kTab, L"頁", Add(kPlain, L"", inFront_));
+  AddBar(Add(kPlain, L"", tab), L"この頁");
+  EXPECT_EQ(Find(), L"この頁");
+  // Two bars in the tab count as none.
+  AddBar(tab, L"もう一つ");
+  EXPECT_EQ(Find(), L"");
 }
 
 }  // namespace
-}  // namespace capture
+}  // namespace report

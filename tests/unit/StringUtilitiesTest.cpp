@@ -44,7 +44,7 @@ TEST(ContainsIgnoringCaseTest, FindsAPart) {
   EXPECT_FALSE(ContainsIgnoringCase(L"", L"edit"));
 }
 
-TEST(CutDblQuotTest, PeelsBlanksAndQuotes) {
+TEST(CutDblQuotTest, RemovesBlanksAndQuotesRepeatedly) {
   EXPECT_EQ(CutDblQuot(L"  \" \"a\" \"  "), L"a");
   EXPECT_EQ(CutDblQuot(L"\"\""), L"");
   EXPECT_EQ(CutDblQuot(L""), L"");
@@ -71,7 +71,7 @@ TEST(FileExistsTest, LooksBesideTheProgram) {
   EXPECT_TRUE(FileExists(L"C:\\windows\\win.ini"));
 }
 
-TEST(FileExistsTest, LetsErrorsThrough) {
+TEST(FileExistsTest, ErrorsReachTheCaller) {
   const auto before = platform::SetMessageBox([](const std::wstring&, const std::wstring&) {});
   EXPECT_THROW(FileExists(L"\""), platform::NumberedError);
   platform::SetMessageBox(before);

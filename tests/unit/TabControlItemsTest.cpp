@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "../ReadItems.h"
 #include "FakeTarget.h"
 #include "platform/TextCodec.h"
 
@@ -28,8 +29,8 @@ class TabControlItemsTest : public testing::Test {
   }
 
   std::wstring Read() {
-    return GetTabControlItem(target_.hwnd, target_.capture.Session(), target_.method,
-                             target_.Access());
+    return ReadText(GetTabControlItem, target_.hwnd, target_.capture.Session(), target_.method,
+                    target_.Access());
   }
 
   std::int32_t Answer(UINT message, WPARAM tab, LPARAM record) {

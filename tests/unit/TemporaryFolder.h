@@ -1,5 +1,4 @@
-// A folder for one test, with blanks in its name; gone with its
-// content when the test ends.
+// A folder for one test, with blanks in its name; removed with its content when the test ends.
 #pragma once
 
 #include <windows.h>

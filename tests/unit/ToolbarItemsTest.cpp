@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <optional>
 
+#include "../ReadItems.h"
 #include "FakeTarget.h"
 #include "platform/TextCodec.h"
 
@@ -35,8 +36,8 @@ class ToolbarItemsTest : public testing::Test {
   }
 
   std::wstring Read() {
-    return GetToolbarItem(target_.hwnd, target_.capture.Session(), target_.method,
-                          target_.Access());
+    return ReadText(GetToolbarItem, target_.hwnd, target_.capture.Session(), target_.method,
+                    target_.Access());
   }
 
   std::int32_t Answer(UINT message, WPARAM which, char* block) {

@@ -26,7 +26,7 @@ constexpr TooltipCase kCases[] = {
     {700, 99, kLastTick, false},
 };
 
-TEST(TooltipIsDueTest, WhileTheRestIsFreshAndNotTooOften) {
+TEST(TooltipIsDueTest, InTheFirstSecondsOfRestAndNotTooOften) {
   for (const TooltipCase& one : kCases) {
     EXPECT_EQ(TooltipIsDue(one.stillMs, one.now, one.lastAsked), one.due)
         << "still " << one.stillMs << ", now " << one.now << ", last " << one.lastAsked;

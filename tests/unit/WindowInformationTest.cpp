@@ -1,11 +1,11 @@
-#include "capture/WindowInformation.h"
+#include "report/WindowInformation.h"
 
 #include <gtest/gtest.h>
 
 #include "FakeCapture.h"
 #include "platform/UniqueHandle.h"
 
-namespace capture {
+namespace report {
 namespace {
 
 WindowFacts Facts(int number, const std::wstring& className, const std::wstring& title,
@@ -13,7 +13,7 @@ WindowFacts Facts(int number, const std::wstring& className, const std::wstring&
   return {WindowNumber(number), className, title, place};
 }
 
-TEST(WindowInformationTextTest, TellsEverythingAboutAWindow) {
+TEST(WindowInformationTextTest, ShowsEverythingAboutAWindow) {
   WindowInformation information;
   information.window = Facts(1312948, L"Edit", L"題名", {10, 20, 310, 220});
   information.owner = Facts(4660, L"Shell", L"", {0, 0, 1, 1});
@@ -104,6 +104,24 @@ TEST(ReadWindowInformationTest, ListsAllVisibleDescendantsAndNoOthers) {
   }
 }
 
+TEST(ReadWindowInformationTest, ThePlaceIsWhereTheWindowIsByThen) {
+  auto window = Make(nullptr, L"題", 0);
+  const WindowFacts facts = ReadWindowFacts(window.Get());
+  SetWindowPos(window.Get(), nullptr, 300, 200, 70, 60, SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowTextW(window.Get(), L"新しい題");
+  const WindowFacts moved = ReadWindowInformation(facts).window;
+  EXPECT_EQ(moved.place.left, 300);
+  EXPECT_EQ(moved.place.bottom, 260);
+  EXPECT_EQ(moved.title, L"題");
+
+  window = {};
+  const WindowFacts gone = ReadWindowInformation(facts).window;
+  EXPECT_EQ(gone.className, L"Static");
+  EXPECT_EQ(gone.title, L"題");
+  EXPECT_EQ(gone.place.left, 0);
+  EXPECT_EQ(gone.place.bottom, 0);
+}
+
 TEST(ReadWindowInformationTest, NamesOwnerAndAncestors) {
   const auto owner = Make(nullptr, L"持ち主", 0);
   const platform::UniqueWindow owned(CreateWindowExW(0, L"STATIC", L"持ち物", WS_POPUP, 1, 2, 3, 4,
@@ -118,4 +136,4 @@ TEST(ReadWindowInformationTest, NamesOwnerAndAncestors) {
 }
 
 }  // namespace
-}  // namespace capture
+}  // namespace report

@@ -1,4 +1,4 @@
-// A process that a test starts and that never outlives the test.
+// A process that a test starts and that always ends with the test.
 #pragma once
 
 #include <windows.h>

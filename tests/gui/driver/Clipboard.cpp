@@ -38,7 +38,7 @@ std::optional<std::string> Text() {
 void SetText(std::string_view utf8) {
   const std::wstring text = ToWide(utf8);
   const std::size_t size = (text.size() + 1) * sizeof(wchar_t);
-  // The clipboard takes the block over.
+  // The clipboard owns the block from now on.
   const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE, size);
   std::memcpy(GlobalLock(block), text.c_str(), size);
   GlobalUnlock(block);

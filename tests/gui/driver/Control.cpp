@@ -82,7 +82,7 @@ void Control::SetText(std::string_view utf8) const {
 }
 
 void Control::WaitUntilReachable() const {
-  Require(WaitFor(name_ + " stands under the pointer", [&](std::string& seen) {
+  Require(WaitFor(name_ + " is under the pointer", [&](std::string& seen) {
     const HWND under = WindowFromPoint(Center());
     seen = Describe(under);
     return under == window_;

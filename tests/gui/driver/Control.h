@@ -1,4 +1,4 @@
-// One window of a tested program, looked at from outside.
+// One window of a tested program, seen from outside.
 #pragma once
 
 #include <windows.h>
@@ -11,8 +11,8 @@
 
 namespace gui {
 
-// A view of a window; owns nothing. Rectangles and points are in screen pixels. Every question is
-// answered within two seconds, a window that hangs answers with an empty text or 0.
+// A view of a window; owns nothing. Rectangles and points are in screen pixels. Every query takes
+// two seconds at most; a hung window gives an empty text or 0.
 class Control {
  public:
   // `name` appears in failure messages.
@@ -37,7 +37,7 @@ class Control {
   // Puts a text into an edit control.
   void SetText(std::string_view utf8) const;
 
-  // With the pointer, at the centre; waits until the window stands under that point.
+  // With the pointer, at the centre; waits until the window is under that point.
   void Click() const;
   void DoubleClick() const;
 

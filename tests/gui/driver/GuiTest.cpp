@@ -11,7 +11,7 @@
 namespace gui {
 namespace {
 
-// Takes the picture at the first failure, while the windows of the test still stand.
+// Takes the picture at the first failure, while the windows of the test still exist.
 class ScreenshotOnFailure : public testing::EmptyTestEventListener {
   void OnTestPartResult(const testing::TestPartResult& result) override {
     if (!result.failed() || testing::UnitTest::GetInstance()->current_test_info() == lastFailed_) {

@@ -1,4 +1,4 @@
-// What every GUI test stands on.
+// The base of every GUI test.
 #pragma once
 
 #include <gtest/gtest.h>

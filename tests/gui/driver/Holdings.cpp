@@ -14,7 +14,7 @@ namespace gui {
 namespace {
 
 // The counters for handles and objects that the system offers are 0 in Wine; its list of all
-// handles, and the table of GDI objects that every process has, are true.
+// handles, and the table of GDI objects that every process has, are correct.
 void CountHandles(DWORD processId, Holdings& holdings) {
   struct Entry {
     std::uint32_t process;
@@ -25,7 +25,7 @@ void CountHandles(DWORD processId, Holdings& holdings) {
   };
   static_assert(sizeof(Entry) == 16);
   constexpr int kHandleInformation = 16;
-  // An event of our own tells by what number events go.
+  // An event of this process shows the type number of events.
   const OwnedHandle event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   std::vector<std::uint32_t> buffer(1U << 20);
   if (NtQuerySystemInformation(static_cast<SYSTEM_INFORMATION_CLASS>(kHandleInformation),
@@ -62,7 +62,8 @@ int CountGdiObjects(HANDLE process) {
   };
   static_assert(sizeof(Entry) == 24);
   constexpr std::size_t kEntries = 65536;
-  constexpr std::uintptr_t kTableInProcess = 0x94;  // where the process tells its table
+  constexpr std::uintptr_t kTableInProcess =
+      0x94;  // where the process stores the address of its table
 
   PROCESS_BASIC_INFORMATION basic = {};
   if (NtQueryInformationProcess(process, ProcessBasicInformation, &basic, sizeof basic, nullptr) !=
@@ -103,7 +104,7 @@ BOOL CALLBACK CountWithChildren(HWND window, LPARAM count) {
 int CountWindows(DWORD processId) {
   WindowCount counted = {processId, 0};
   EnumWindows(CountWithChildren, reinterpret_cast<LPARAM>(&counted));
-  // Windows for messages only stand nowhere else.
+  // Message-only windows are found only here.
   for (HWND window = FindWindowExW(HWND_MESSAGE, nullptr, nullptr, nullptr); window != nullptr;
        window = FindWindowExW(HWND_MESSAGE, window, nullptr, nullptr)) {
     CountChild(window, reinterpret_cast<LPARAM>(&counted));
@@ -128,7 +129,7 @@ std::string Holdings::Text() const {
 
 Holdings HoldingsOf(HANDLE process) {
   const DWORD id = GetProcessId(process);
-  // First, since the first look at windows makes the system load what it draws with.
+  // First, because the first enumeration of windows makes the system load its drawing objects.
   const int windows = CountWindows(id);
   Holdings holdings;
   CountHandles(id, holdings);

@@ -1,4 +1,4 @@
-// What a process holds of the system, for tests that look for what is left behind.
+// What a process holds of the system, for tests that look for leaks.
 #pragma once
 
 #include <windows.h>
@@ -9,7 +9,7 @@ namespace gui {
 
 struct Holdings {
   int handles = 0;     // to kernel objects other than events
-  int events = 0;      // apart, because Wine keeps some: see Allowance
+  int events = 0;      // separate, because Wine keeps some: see Allowance
   int gdiObjects = 0;  // fonts, brushes, bitmaps, device contexts and so on
   int windows = 0;     // of all kinds, at any depth
   double megabytes = 0;

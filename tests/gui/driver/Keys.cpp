@@ -14,9 +14,8 @@ void Send(WORD virtualKey, DWORD flags) {
 
 bool IsDown(int virtualKey) { return GetAsyncKeyState(virtualKey) < 0; }
 
-// After a window has got the focus, the system soon takes back every modifier that it does not
-// find down on the real keyboard. Shift alone does no harm to any window, so it is tried until it
-// stays.
+// After a window has got the focus, the system soon releases every modifier that is not down on the
+// real keyboard. Shift alone changes nothing in any window, so it is pressed until it stays down.
 void WaitUntilModifiersStay() {
   constexpr int kTries = 20;
   for (int attempt = 0; attempt < kTries; ++attempt) {

@@ -1,4 +1,4 @@
-// The keyboard, pressed the way a hand does it.
+// The keyboard, pressed as by a hand.
 #pragma once
 
 #include <windows.h>
@@ -14,11 +14,11 @@ namespace gui::keys {
 // on a busy machine, shorter than the key repeat (about 660 ms).
 inline constexpr Milliseconds kHold{400};
 
-// Presses the keys in order, holds them, lets them go in reverse order. The pointer must not move
-// meanwhile: with the pointer moving into a window the system lets modifiers go by itself.
+// Presses the keys in order, holds them, releases them in reverse order. The pointer must not move
+// meanwhile: when it moves into a window, the system releases modifiers.
 void Stroke(std::initializer_list<WORD> virtualKeys, Milliseconds hold = kHold);
 
-// Holds one key down as long as it lives.
+// Holds one key down as long as it exists.
 class Held {
  public:
   explicit Held(WORD virtualKey);
@@ -30,7 +30,7 @@ class Held {
   WORD virtualKey_;
 };
 
-// Forgets the presses that GetAsyncKeyState still remembers, and lets every key go.
+// Clears the presses that GetAsyncKeyState still remembers, and releases every key.
 void Reset();
 
 }  // namespace gui::keys

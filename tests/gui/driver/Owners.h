@@ -12,7 +12,7 @@ struct CloseHandleCall {
   void operator()(HANDLE handle) const { CloseHandle(handle); }
 };
 
-// nullptr stands for "none"; INVALID_HANDLE_VALUE must not be put in.
+// nullptr means "none"; INVALID_HANDLE_VALUE must not be stored.
 using OwnedHandle = std::unique_ptr<std::remove_pointer_t<HANDLE>, CloseHandleCall>;
 
 struct DeleteObjectCall {

@@ -15,7 +15,7 @@ std::filesystem::path PackageFolder() { return FromBuildPath(GUI_PACKAGE_FOLDER)
 
 std::filesystem::path ProgramFile() { return PackageFolder() / "Velmora.exe"; }
 
-// Entry by entry: on Windows the library's copying of a whole tree refuses a folder that exists.
+// Entry by entry: on Windows the library's copy of a whole tree fails for a folder that exists.
 void CopyPackageTo(const std::filesystem::path& folder) {
   for (const auto& entry : std::filesystem::recursive_directory_iterator(PackageFolder())) {
     const auto target = folder / entry.path().lexically_relative(PackageFolder());

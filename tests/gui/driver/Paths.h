@@ -6,7 +6,7 @@
 
 namespace gui {
 
-// The build system writes paths of the building machine, which Wine shows on drive Z.
+// The build system writes paths of the build machine, which are on drive Z in Wine.
 std::filesystem::path FromBuildPath(std::string path);
 
 // What users get: the folder of the unpacked package, and the program in it. Not to be run there,
@@ -20,8 +20,8 @@ void CopyPackageTo(const std::filesystem::path& folder);
 std::filesystem::path FixtureFile();
 std::filesystem::path CommandRecorderFile();
 
-// A folder of the running test's own, emptied; its name holds the test's name. Its path holds
-// blanks and Japanese characters, as the places do that users choose.
+// A folder of the running test, emptied; its name contains the test's name. Its path contains
+// blanks and Japanese characters, as users' folders do.
 std::filesystem::path FreshFolder();
 
 // build/<preset>/screenshots, created when missing.

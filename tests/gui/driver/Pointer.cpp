@@ -8,15 +8,15 @@
 namespace gui::pointer {
 namespace {
 
-// A pixel of the screen in the 65,536 steps that absolute positions are given in.
+// A pixel of the screen in the 65,536 steps of absolute positions.
 LONG Absolute(LONG pixel, int metric) {
   const LONG size = GetSystemMetrics(metric);
   return (pixel * 65536 + size - 1) / size;
 }
 
 // All in one call and at one time: a pause between the clicks of a double click, on a machine that
-// is busy, would make two single clicks of it. Every event tells its place: Wine may just now have
-// moved the pointer back to where a window that has opened or closed saw it last.
+// is busy, would make two single clicks of it. Every event has its position, because Wine may just
+// have moved the pointer back to where a window that has opened or closed saw it last.
 void SendButtons(POINT point, std::initializer_list<DWORD> flags) {
   const DWORD now = GetTickCount();
   std::vector<INPUT> inputs;
@@ -68,7 +68,7 @@ void Drag(POINT from, POINT to, const std::function<void()>& beforeRelease) {
   for (int step = 1; step <= kSteps; ++step) {
     MoveTo({from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});
   }
-  // A hand trembles before it lets go: should the last step have been swallowed, this makes up.
+  // One more small movement before the release, in case the last step was lost.
   for (const LONG tremble : {1, 0}) {
     Last(Milliseconds(20));
     MoveTo({to.x + tremble, to.y});

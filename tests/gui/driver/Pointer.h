@@ -1,4 +1,4 @@
-// The mouse pointer, moved and pressed the way a hand does it. Points are screen pixels.
+// The mouse pointer, moved and pressed as by a hand. Points are screen pixels.
 #pragma once
 
 #include <windows.h>

@@ -1,4 +1,4 @@
-// The real program, run in a folder of its own.
+// The real program, run in its own folder.
 #pragma once
 
 #include <windows.h>
@@ -29,9 +29,9 @@ struct ProgramStart {
 class Program {
  public:
   // Puts the package and the settings file into the folder, starts the program and waits until its
-  // main window is visible and answers. Throws std::runtime_error when that does not come about.
+  // main window is visible and answers. Throws std::runtime_error when that does not happen.
   explicit Program(const ProgramStart& start = {});
-  // Ends the program politely, and by force when it does not follow.
+  // Closes the program, by force when it does not end.
   ~Program();
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
@@ -44,7 +44,7 @@ class Program {
   Control TopPane() const;
   Control BottomPane() const;
 
-  // Starts or stops a capture with the button, and waits until its caption tells so.
+  // Starts or stops a capture with the button, and waits until its caption has changed.
   void StartCapture() const;
   void StopCapture() const;
   // Whether a capture runs, seen from the button's caption.
@@ -53,10 +53,10 @@ class Program {
   // Puts the main window's outer rectangle there.
   void MoveWindowTo(int left, int top, int width, int height) const;
 
-  // Closes the message boxes that stand open; how many there were.
+  // Closes the open message boxes; returns how many there were.
   int CloseMessages() const;
 
-  // Posts the order to close.
+  // Posts WM_CLOSE.
   void Close() const;
   // Closes and waits; the exit code, or nothing when the program still runs at the deadline.
   std::optional<DWORD> CloseAndWait();
@@ -65,7 +65,7 @@ class Program {
   const std::filesystem::path& Folder() const { return folder_; }
 
   std::filesystem::path ConfFile() const { return folder_ / "Conf.txt"; }
-  // The settings file as it stands: its bytes, and its lines in UTF-8 without their line ends.
+  // The current settings file: its bytes, and its lines in UTF-8 without their line ends.
   std::string ConfBytes() const;
   std::vector<std::string> ConfLines() const;
 

@@ -5,7 +5,7 @@
 
 namespace gui {
 
-// Sets the resolution as long as it lives; afterwards it is 96 again.
+// Sets the resolution as long as it exists; afterwards it is 96 again.
 class Resolution {
  public:
   explicit Resolution(DWORD dpi);
@@ -14,7 +14,7 @@ class Resolution {
   Resolution& operator=(const Resolution&) = delete;
 };
 
-// Takes back what a test left that could not end properly.
+// Restores the resolution after a test that could not end properly.
 void RestoreResolution();
 
 }  // namespace gui

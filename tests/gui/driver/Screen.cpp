@@ -5,9 +5,11 @@
 #include <cstdint>
 #include <fstream>
 #include <stdexcept>
+#include <utility>
 
 #include "driver/Owners.h"
 #include "driver/Paths.h"
+#include "driver/WaitFor.h"
 
 namespace gui {
 namespace {
@@ -85,6 +87,14 @@ Bytes Stored(const Bytes& raw) {
   return stream;
 }
 
+RECT WholeScreen() { return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}; }
+
+std::filesystem::path Saved(const Picture& picture, const std::string& name) {
+  const std::filesystem::path file = ScreenshotFolder() / (name + ".png");
+  picture.SavePng(file);
+  return file;
+}
+
 }  // namespace
 
 Picture::Picture(int width, int height)
@@ -109,9 +119,7 @@ Picture Picture::Of(const RECT& rectangle) {
   return picture;
 }
 
-Picture Picture::OfScreen() {
-  return Of({0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)});
-}
+Picture Picture::OfScreen() { return Of(WholeScreen()); }
 
 COLORREF Picture::At(int x, int y) const {
   const DWORD pixel = pixels_.at(static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
@@ -147,10 +155,25 @@ void Picture::SavePng(const std::filesystem::path& file) const {
   if (!out) throw std::runtime_error("cannot write " + file.string());
 }
 
+Picture PictureWhenPainted(const RECT& rectangle) {
+  constexpr int kSameInARow = 2;
+  Picture last = Picture::Of(rectangle);
+  int same = 0;
+  Require(WaitFor("the picture stays as it is", [&](std::string&) {
+    Last(Milliseconds(60));
+    const Picture before = std::exchange(last, Picture::Of(rectangle));
+    same = before == last ? same + 1 : 0;
+    return same == kSameInARow;
+  }));
+  return last;
+}
+
 std::filesystem::path SaveScreenshot(const std::string& name) {
-  const std::filesystem::path file = ScreenshotFolder() / (name + ".png");
-  Picture::OfScreen().SavePng(file);
-  return file;
+  return Saved(Picture::OfScreen(), name);
+}
+
+std::filesystem::path SaveScreenshotWhenPainted(const std::string& name) {
+  return Saved(PictureWhenPainted(WholeScreen()), name);
 }
 
 }  // namespace gui

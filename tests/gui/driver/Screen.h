@@ -34,7 +34,14 @@ class Picture {
   std::vector<DWORD> pixels_;  // 0x00RRGGBB, top row first
 };
 
-// Saves the whole screen as build/<preset>/screenshots/<name>.png and returns that file.
+// What that rectangle shows once it no longer changes. A window reports its new text or size before
+// it has drawn it, and draws its controls one after the other. Throws std::runtime_error when the
+// picture keeps changing.
+Picture PictureWhenPainted(const RECT& rectangle);
+
+// Saves the whole screen as build/<preset>/screenshots/<name>.png and returns that file: as it is
+// now, or once it no longer changes.
 std::filesystem::path SaveScreenshot(const std::string& name);
+std::filesystem::path SaveScreenshotWhenPainted(const std::string& name);
 
 }  // namespace gui

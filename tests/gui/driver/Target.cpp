@@ -12,7 +12,7 @@
 namespace gui {
 namespace {
 
-// A 32-bit process sees the 32-bit twins of the system's programs, and some of those only start
+// A 32-bit process sees the 32-bit versions of the system's programs, and some of those only start
 // the real program and wait. Does nothing on a 32-bit system.
 class RealSystemFolder {
  public:

@@ -1,4 +1,4 @@
-// A program whose windows the captured point stands over.
+// A program whose windows the tests capture.
 #pragma once
 
 #include <windows.h>
@@ -17,10 +17,10 @@ namespace gui {
 // words of its command line.
 class Fixture {
  public:
-  // Waits until the fixture says that its windows stand.
+  // Waits until the fixture reports that its windows exist.
   explicit Fixture(std::string_view words);
 
-  // The window of that kind, or "main" for the top-level window. Throws when it was not asked for.
+  // The window of that kind, or "main" for the top-level window. Throws when it was not requested.
   Control operator[](const std::string& kind) const;
 
   // Makes the fixture stop answering for that time.

@@ -11,7 +11,7 @@ std::string ToUtf8(std::wstring_view text);
 std::wstring ToWide(std::string_view utf8);
 
 // Between UTF-8 and the system code page, in which Conf.txt is written. Characters that the other
-// side lacks become "?".
+// side does not have become "?".
 std::string ToCodePage(std::string_view utf8);
 std::string FromCodePage(std::string_view text);
 

@@ -32,7 +32,7 @@ std::vector<HWND> VisibleWindows(DWORD processId) {
 }
 
 HWND WaitForWindow(const ChildProcess& process, std::string_view className) {
-  // A window may be visible while its program is still busy putting it in order.
+  // A window may be visible while its program still prepares it.
   WaitForInputIdle(process.Handle(), static_cast<DWORD>(kPatience.count()));
   HWND found = nullptr;
   bool ended = false;

@@ -1,0 +1,68 @@
+#include "report/SystemReaders.h"
+
+#include "accessibility/AccessibleReport.h"
+#include "accessibility/MyAccessible.h"
+#include "browser/MyInternetexplore.h"
+#include "browser/PageReading.h"
+#include "extract/PointText.h"
+#include "report/ElementTable.h"
+#include "report/StatusText.h"
+
+namespace report {
+namespace {
+
+class SystemReaders : public ReportReaders {
+ public:
+  explicit SystemReaders(const settings::Settings& settings) : settings_(settings) {}
+
+  WindowFacts Facts(HWND hwnd) override { return ReadWindowFacts(hwnd); }
+  WindowInformation Information(const WindowFacts& window) override {
+    return ReadWindowInformation(window);
+  }
+
+  extract::TextReading TextFromPoint(
+      POINT point, const std::function<void(const std::wstring&)>& showMessage) override {
+    return extract::MyGetControlTextFromPoint(point.x, point.y, settings_.accValueText, false,
+                                              browser_, showMessage);
+  }
+  std::wstring NameOfWindow(HWND hwnd) override { return MyAccessible::AccNameOfWindow(hwnd); }
+
+  extract::TextReading Control(Category category, const ControlRead& read) override {
+    return ReadControl(category, read, settings_);
+  }
+
+  std::optional<MyInternetexplore::PageFacts> Page(const PageRead& read) override {
+    return MyInternetexplore::ReadPage(
+        {read.documentWindow, read.point, settings_.startNode,
+         CharactersNeeded(settings_.htmlTagTextLength), read.showMessage, read.textsRead},
+        browser_, read.session);
+  }
+  bool Answers(HWND hwnd) override { return messages_.Answers(hwnd); }
+
+  AccessibleTexts Accessible(const WindowFacts* window, POINT point,
+                             const platform::ReadSession& session) override {
+    MyAccessible::ReportedWindow reported;
+    if (window != nullptr) reported = {window->hwnd, window->className, window->title};
+    MyAccessible::AccessibleFacts record;
+    std::wstring report =
+        MyAccessible::GetAccessibleMemberFromPoint(record, reported, point, settings_, session);
+    return {std::move(report), record.name};
+  }
+
+  std::wstring StatusText(const WindowFacts& window) override { return FindStatusText(window); }
+
+ private:
+  const settings::Settings& settings_;
+  MyInternetexplore::BoundedMessages messages_{MyInternetexplore::SystemBrowserCalls()};
+  MyInternetexplore::InterfaceDescription description_;
+  const MyInternetexplore::BrowserAccess browser_{MyInternetexplore::SystemBrowserCalls(),
+                                                  messages_, &description_};
+};
+
+}  // namespace
+
+std::unique_ptr<ReportReaders> MakeSystemReaders(const settings::Settings& settings) {
+  return std::make_unique<SystemReaders>(settings);
+}
+
+}  // namespace report

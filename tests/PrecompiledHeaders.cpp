@@ -1,0 +1,1 @@
+// Empty: CMake precompiles headers only for a target that has a source.

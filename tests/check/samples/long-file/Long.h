@@ -1,0 +1,6 @@
+// Six
+// lines
+// are
+// more
+// than
+// five.
