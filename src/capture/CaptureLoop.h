@@ -3,7 +3,7 @@
 #pragma once
 
 #include <functional>
-#include <string>
+#include <string_view>
 
 #include "capture/CaptureContext.h"
 
@@ -12,19 +12,10 @@ namespace capture {
 // Shows in lblStatus how a capture is stopped.
 void ShowStopHint(const CaptureContext& context);
 
-class CaptureLoop {
- public:
-  // compose makes the report on the target window. commandLine is what follows the program's name.
-  CaptureLoop(CaptureContext context, std::function<void()> compose, std::wstring commandLine);
-
-  // Starts a capture and returns when it has ended. Returns at once when one runs already or the
-  // program is about to end.
-  void RunCapture();
-
- private:
-  CaptureContext context_;
-  std::function<void()> compose_;
-  std::wstring commandLine_;
-};
+// Starts a capture and returns when it has ended; at once when one runs already or the program is
+// about to end. compose makes the report on the target window. commandLine is what follows the
+// program's name.
+void RunCapture(const CaptureContext& context, const std::function<void()>& compose,
+                std::wstring_view commandLine);
 
 }  // namespace capture

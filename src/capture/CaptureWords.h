@@ -19,7 +19,8 @@ std::wstring FormatMousePosition(POINT point);
 std::wstring StopHint(std::wstring_view hotkey, std::int32_t actionTest,
                       std::wstring_view actionKeyName);
 
-// The integer nearest to the distance of two points.
+// The integer nearest to the distance of two points. Not used here: for the other programs of this
+// family.
 std::int32_t PointDistance(POINT p1, POINT p2);
 
 // Whether the first word of the command line is "debug", ignoring case.

@@ -24,7 +24,7 @@ std::wstring UpToNul(std::wstring_view buffer);
 std::wstring CutDblQuot(std::wstring_view text);
 
 // Whether path, resolved against the program's folder, names a normal file. Throws as CutDblQuot
-// does.
+// does. Not used here, like MaxOf and IsPositive: for the other programs of this family.
 bool FileExists(const std::wstring& path);
 
 // The larger, the smaller of two values; the first when they are equal.

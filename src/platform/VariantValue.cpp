@@ -1,25 +1,17 @@
 #include "platform/VariantValue.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "platform/ComOwners.h"
 
 namespace platform {
 namespace {
 
-bool IsValue(const VARIANT& value) {
-  switch (value.vt) {
-    case VT_EMPTY:
-    case VT_NULL:
-    case VT_ERROR:
-    case VT_DISPATCH:
-    case VT_UNKNOWN:
-      return false;
-    default:
-      return true;
-  }
-}
+constexpr VARTYPE kNoValues[] = {VT_EMPTY, VT_NULL, VT_ERROR, VT_DISPATCH, VT_UNKNOWN};
 
 bool Convert(const VARIANT& value, VARTYPE type, UniqueVariant& converted) {
-  if (!IsValue(value)) return false;
+  if (std::ranges::find(kNoValues, value.vt) != std::end(kNoValues)) return false;
   // The header lacks the const; the value is only read.
   auto* const source = const_cast<VARIANT*>(&value);
   return SUCCEEDED(VariantChangeType(converted.Receive(), source, 0, type));

@@ -21,32 +21,28 @@ std::wstring LowerCase(std::wstring_view text) {
   return lower;
 }
 
-void StoreText(const ConfigField& field, std::wstring_view text, ConfigValues& values) {
-  if (const auto* const textField = std::get_if<std::wstring Settings::*>(&field)) {
-    values.record.** textField = text;
-  } else if (const auto* const number = std::get_if<std::int32_t Settings::*>(&field)) {
-    values.record.** number = platform::LeadingNumber(text);
-  } else {
-    values.window.*std::get<std::int32_t WindowValues::*>(field) = platform::LeadingNumber(text);
+// Where the field keeps its number; null when it keeps a text.
+template <typename Values>
+auto* NumberOf(const ConfigField& field, Values& values) {
+  if (const auto* const inRecord = std::get_if<std::int32_t Settings::*>(&field)) {
+    return &(values.record.**inRecord);
   }
+  const auto* const inWindow = std::get_if<std::int32_t WindowValues::*>(&field);
+  return inWindow == nullptr ? nullptr : &(values.window.**inWindow);
 }
 
-void StoreNumber(const ConfigField& field, std::int32_t number, ConfigValues& values) {
-  if (const auto* const inRecord = std::get_if<std::int32_t Settings::*>(&field)) {
-    values.record.** inRecord = number;
+void StoreText(const ConfigField& field, std::wstring_view text, ConfigValues& values) {
+  if (std::int32_t* const number = NumberOf(field, values)) {
+    *number = platform::LeadingNumber(text);
   } else {
-    values.window.*std::get<std::int32_t WindowValues::*>(field) = number;
+    values.record.*std::get<std::wstring Settings::*>(field) = text;
   }
 }
 
 std::wstring TextOf(const ConfigField& field, const ConfigValues& values) {
-  if (const auto* const text = std::get_if<std::wstring Settings::*>(&field)) {
-    return values.record.**text;
-  }
-  if (const auto* const number = std::get_if<std::int32_t Settings::*>(&field)) {
-    return std::to_wstring(values.record.**number);
-  }
-  return std::to_wstring(values.window.*std::get<std::int32_t WindowValues::*>(field));
+  const std::int32_t* const number = NumberOf(field, values);
+  return number == nullptr ? values.record.*std::get<std::wstring Settings::*>(field)
+                           : std::to_wstring(*number);
 }
 
 void ParseLine(std::wstring_view line, ConfigValues& values) {
@@ -65,12 +61,12 @@ void ParseLine(std::wstring_view line, ConfigValues& values) {
 void SetDefaults(const ScreenTwips& screen, ConfigValues& values) {
   for (const ConfigKey& key : ConfigKeys()) {
     if (const auto* const number = std::get_if<std::int32_t>(&key.byDefault)) {
-      StoreNumber(key.field, *number, values);
+      *NumberOf(key.field, values) = *number;
     } else if (const auto* const text = std::get_if<std::wstring_view>(&key.byDefault)) {
       StoreText(key.field, *text, values);
     } else if (const auto* const formula =
                    std::get_if<std::int32_t (*)(const ScreenTwips&)>(&key.byDefault)) {
-      StoreNumber(key.field, (*formula)(screen), values);
+      *NumberOf(key.field, values) = (*formula)(screen);
     }
   }
 }

@@ -1,6 +1,8 @@
 // The keyboard as the polled keys see it.
 #pragma once
 
+#include <windows.h>
+
 #include "platform/Interface.h"
 
 namespace settings {
@@ -9,10 +11,13 @@ namespace settings {
 // it was pressed since the last query.
 class KeyboardState : public platform::Interface {
  public:
-  virtual short AsyncKeyState(int virtualKey) const = 0;
+  virtual short AsyncKeyState(int virtualKey) const { return GetAsyncKeyState(virtualKey); }
 };
 
 // The real keyboard.
-const KeyboardState& SystemKeyboard();
+inline const KeyboardState& SystemKeyboard() {
+  static const KeyboardState keyboard{};
+  return keyboard;
+}
 
 }  // namespace settings

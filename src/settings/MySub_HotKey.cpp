@@ -17,37 +17,14 @@ const std::array<std::wstring_view, kHotKeyCount> HotKeyNames{
     L"Shift+F12",
 };
 
-const std::array<std::int32_t, kHotKeyCount> HotKeyCodes{
-    0,
-    VK_PAUSE,
-    VK_ESCAPE,
-    VK_F1,
-    VK_F2,
-    VK_F3,
-    VK_F4,
-    VK_F5,
-    VK_F6,
-    VK_F7,
-    VK_F8,
-    VK_F9,
-    VK_F10,
-    VK_F11,
-    VK_F12,
-    kShift + VK_PAUSE,
-    kShift + VK_ESCAPE,
-    kShift + VK_F1,
-    kShift + VK_F2,
-    kShift + VK_F3,
-    kShift + VK_F4,
-    kShift + VK_F5,
-    kShift + VK_F6,
-    kShift + VK_F7,
-    kShift + VK_F8,
-    kShift + VK_F9,
-    kShift + VK_F10,
-    kShift + VK_F11,
-    kShift + VK_F12,
-};
+const std::array<std::int32_t, kHotKeyCount> HotKeyCodes = [] {
+  std::array<std::int32_t, kHotKeyCount> codes{0,     VK_PAUSE, VK_ESCAPE, VK_F1,  VK_F2,
+                                               VK_F3, VK_F4,    VK_F5,     VK_F6,  VK_F7,
+                                               VK_F8, VK_F9,    VK_F10,    VK_F11, VK_F12};
+  constexpr std::size_t kSingleKeys = kHotKeyCount / 2;
+  for (std::size_t i = 1; i <= kSingleKeys; ++i) codes[kSingleKeys + i] = kShift + codes[i];
+  return codes;
+}();
 
 std::int32_t HotKeyCode(std::wstring_view name) {
   const auto found = std::ranges::find(HotKeyNames, name);

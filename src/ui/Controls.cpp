@@ -1,5 +1,7 @@
 #include "ui/Controls.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "ui/Window.h"
@@ -7,18 +9,12 @@
 namespace ui {
 namespace {
 
-// Whether the message is one that a control sends to its parent.
+// The messages that a control sends to its parent.
+constexpr UINT kFromControls[] = {WM_COMMAND, WM_NOTIFY, WM_CTLCOLORSTATIC, WM_CTLCOLORBTN,
+                                  WM_CTLCOLOREDIT};
+
 bool IsFromControl(UINT message) {
-  switch (message) {
-    case WM_COMMAND:
-    case WM_NOTIFY:
-    case WM_CTLCOLORSTATIC:
-    case WM_CTLCOLORBTN:
-    case WM_CTLCOLOREDIT:
-      return true;
-    default:
-      return false;
-  }
+  return std::ranges::find(kFromControls, message) != std::end(kFromControls);
 }
 
 LRESULT CALLBACK FrameProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) noexcept {

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/MessagePump.h"
-#include "ui/AppIcon.h"
 #include "ui/KeyFilter.h"
 
 namespace ui {
@@ -23,8 +22,6 @@ bool Dialog::Open(const DialogPlan& plan) {
   window.style = kStyle | plan.style;
   window.exStyle = kExStyle;
   window.parentOrOwner = plan.owner;
-  window.icon = AppIcon(SM_CXICON, SM_CYICON);
-  window.smallIcon = AppIcon(SM_CXSMICON, SM_CYSMICON);
   window.background = GetSysColorBrush(COLOR_BTNFACE);
   window.place = {plan.corner.x, plan.corner.y, 0, 0};
   if (!Create(window)) return false;

@@ -3,6 +3,9 @@
 #include <commctrl.h>
 #include <imm.h>
 
+#include <algorithm>
+#include <iterator>
+
 namespace ui {
 namespace {
 
@@ -13,26 +16,9 @@ bool IsListOpen(HWND box) {
   return SendMessageW(GetParent(box), CB_GETDROPPEDSTATE, 0, 0) != FALSE;
 }
 
-// Whether the key opens, closes or leaves a list, or chooses in it, and edits nothing.
-bool WorksList(WPARAM key) {
-  switch (key) {
-    case VK_LEFT:
-    case VK_RIGHT:
-    case VK_UP:
-    case VK_DOWN:
-    case VK_PRIOR:
-    case VK_NEXT:
-    case VK_HOME:
-    case VK_END:
-    case VK_RETURN:
-    case VK_ESCAPE:
-    case VK_F4:
-    case VK_TAB:
-      return true;
-    default:
-      return false;
-  }
-}
+// The keys that open, close or leave a list, or choose in it, and edit nothing.
+constexpr WPARAM kListKeys[] = {VK_LEFT, VK_RIGHT, VK_UP,     VK_DOWN,   VK_PRIOR, VK_NEXT,
+                                VK_HOME, VK_END,   VK_RETURN, VK_ESCAPE, VK_F4,    VK_TAB};
 
 // Whether the character closes an open list, with the chosen or with the previous item.
 bool EndsList(WPARAM character) { return character == VK_RETURN || character == VK_ESCAPE; }
@@ -43,7 +29,8 @@ bool Discards(HWND box, Typing typing, UINT message, WPARAM wParam) {
       if (EndsList(wParam) && IsListOpen(box)) return false;
       return !Accepts(typing, static_cast<wchar_t>(wParam));
     case WM_KEYDOWN:
-      return typing == Typing::Nothing && !WorksList(wParam);
+      return typing == Typing::Nothing &&
+             std::ranges::find(kListKeys, wParam) == std::end(kListKeys);
     case WM_SYSKEYDOWN:
     case WM_SYSCHAR:
       return typing == Typing::Nothing && wParam == VK_BACK;  // Alt+Backspace undoes a change

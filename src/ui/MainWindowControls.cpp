@@ -17,6 +17,7 @@ constexpr DWORD kCheckBox = kTabStop | BS_AUTOCHECKBOX;
 // A label takes clicks and tool tips only with SS_NOTIFY; hot-key names hold no access keys.
 constexpr DWORD kLabel = kShown | SS_LEFT | SS_NOTIFY | SS_NOPREFIX;
 constexpr DWORD kLineLabel = kLabel | SS_LEFTNOWORDWRAP | SS_ENDELLIPSIS;
+constexpr DWORD kRightLabel = kLabel | SS_RIGHT | SS_ENDELLIPSIS;
 constexpr DWORD kBox = kTabStop | WS_BORDER | ES_READONLY | ES_AUTOHSCROLL;
 constexpr DWORD kWrapPane = WS_TABSTOP | WS_BORDER | WS_VSCROLL | ES_READONLY | ES_MULTILINE |
                             ES_AUTOVSCROLL | ES_NOHIDESEL;
@@ -46,12 +47,7 @@ constexpr ControlRow kRows[] = {
     {txtWin3, frCenter, kEdit, kBox, L"", {1470, 15, 690, 255}},
     {txtWin1, frCenter, kEdit, kBox, L"", {2190, 15, 690, 255}},
     {txtWin2, frCenter, kEdit, kBox, L"", {2910, 15, 690, 255}},
-    {lblListKind,
-     frCenter,
-     kStatic,
-     kLabel | SS_RIGHT | SS_ENDELLIPSIS,
-     L"",
-     {2160, 300, 1440, 240}},
+    {lblListKind, frCenter, kStatic, kRightLabel, L"", {2160, 300, 1440, 240}},
     {txtCount, frCenter, kEdit, kBox, L"", {3660, 285, 1140, 255}},
     {chkDetail, frCenter, kButtonClass, kCheckBox, L"詳細", {4860, 15, 750, 255}},
     {imgSplitter, 0, kSplitterClass, kShown, L"", {30, 2520, 5610, 60}},

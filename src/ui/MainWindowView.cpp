@@ -1,8 +1,19 @@
 #include "ui/MainWindowView.h"
 
+#include <iterator>
+
 #include "ui/ControlIds.h"
 
 namespace ui {
+namespace {
+
+// By ViewText; the panes follow.
+constexpr int kParts[] = {lblMsg,    lblStatus,   lblAutoStop, lblMousePos, txthWnd,
+                          txtWin0,   txtWin1,     txtWin2,     txtWin3,     txtCount,
+                          txtStatus, lblTextKind, lblListKind};
+static_assert(std::size(kParts) == static_cast<std::size_t>(capture::ViewText::TopPane));
+
+}  // namespace
 
 using capture::CaptureTimer;
 using capture::ViewText;
@@ -11,39 +22,9 @@ MainWindowView::MainWindowView(MainWindowFace& face, const settings::Settings& s
     : face_(face), settings_(settings) {}
 
 HWND MainWindowView::ControlOf(ViewText part) const {
-  switch (part) {
-    case ViewText::lblMsg:
-      return face_.Control(lblMsg);
-    case ViewText::lblStatus:
-      return face_.Control(lblStatus);
-    case ViewText::lblAutoStop:
-      return face_.Control(lblAutoStop);
-    case ViewText::lblMousePos:
-      return face_.Control(lblMousePos);
-    case ViewText::txthWnd:
-      return face_.Control(txthWnd);
-    case ViewText::txtWin0:
-      return face_.Control(txtWin0);
-    case ViewText::txtWin1:
-      return face_.Control(txtWin1);
-    case ViewText::txtWin2:
-      return face_.Control(txtWin2);
-    case ViewText::txtWin3:
-      return face_.Control(txtWin3);
-    case ViewText::txtCount:
-      return face_.Control(txtCount);
-    case ViewText::txtStatus:
-      return face_.Control(txtStatus);
-    case ViewText::lblTextKind:
-      return face_.Control(lblTextKind);
-    case ViewText::lblListKind:
-      return face_.Control(lblListKind);
-    case ViewText::TopPane:
-      return face_.TopPane();
-    case ViewText::BottomPane:
-      return face_.BottomPane();
-  }
-  return nullptr;
+  if (part == ViewText::TopPane) return face_.TopPane();
+  if (part == ViewText::BottomPane) return face_.BottomPane();
+  return face_.Control(kParts[static_cast<std::size_t>(part)]);
 }
 
 std::wstring MainWindowView::Text(ViewText part) const {

@@ -17,6 +17,7 @@ constexpr DWORD kPage = BS_GROUPBOX | WS_GROUP;  // the chosen one is shown
 constexpr DWORD kGroupBox = WS_VISIBLE | kPage;
 constexpr DWORD kCheck = kTabStop | BS_AUTOCHECKBOX | BS_MULTILINE | BS_TOP;
 constexpr DWORD kLabel = WS_VISIBLE | SS_LEFT | SS_NOPREFIX;
+constexpr DWORD kShownKey = kLabel | SS_CENTER | SS_CENTERIMAGE | SS_SUNKEN;
 constexpr DWORD kNumberBox = kTabStop | WS_BORDER | ES_AUTOHSCROLL;
 constexpr DWORD kChosenList = kTabStop | WS_VSCROLL | CBS_DROPDOWNLIST;
 constexpr DWORD kTypedList = kTabStop | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL;
@@ -59,35 +60,30 @@ constexpr SettingControl Label(int id, int parent, Text caption, const TwipsRect
 }
 
 constexpr SettingControl NumberBox(int id, int parent, const TwipsRect& place, Field setting) {
-  return {{id, parent, L"EDIT", kNumberBox, L"", place},
-          nullptr,
-          Holds::TypedNumber,
-          setting,
-          0,
-          {},
-          Typing::DigitsAndMinus};
+  return {.row = {id, parent, L"EDIT", kNumberBox, L"", place},
+          .holds = Holds::TypedNumber,
+          .setting = setting,
+          .typing = Typing::DigitsAndMinus};
 }
 
 constexpr SettingControl NumberList(int id, int parent, const TwipsRect& place, Field setting,
                                     std::int32_t width, Items items, Typing typing,
                                     Text tip = nullptr) {
-  return {{id, parent, L"COMBOBOX", kTypedList, L"", place},
-          tip,
-          Holds::ListNumber,
-          setting,
-          width,
-          items,
-          typing};
+  return {.row = {id, parent, L"COMBOBOX", kTypedList, L"", place},
+          .toolTip = tip,
+          .holds = Holds::ListNumber,
+          .setting = setting,
+          .number = width,
+          .items = items,
+          .typing = typing};
 }
 
 constexpr SettingControl IndexList(int id, int parent, const TwipsRect& place, Field setting,
                                    Items items) {
-  return {{id, parent, L"COMBOBOX", kChosenList, L"", place},
-          nullptr,
-          Holds::ListIndex,
-          setting,
-          0,
-          items};
+  return {.row = {id, parent, L"COMBOBOX", kChosenList, L"", place},
+          .holds = Holds::ListIndex,
+          .setting = setting,
+          .items = items};
 }
 
 constexpr SettingControl Button(int id, int parent, Text caption, const TwipsRect& place,
@@ -184,12 +180,7 @@ constexpr SettingControl kControls[] = {
           L"起動後に即、情報取得を開始します。"),
     Button(cmdHotKey, FrList3, L"ホットキーの設定/変更", {150, 4065, 2130, 375},
            L"ホットキーの変更"),
-    {{lblHotKey,
-      FrList3,
-      L"STATIC",
-      kLabel | SS_CENTER | SS_CENTERIMAGE | SS_SUNKEN,
-      L"",
-      {2355, 4065, 1830, 375}}},
+    {{lblHotKey, FrList3, L"STATIC", kShownKey, L"", {2355, 4065, 1830, 375}}},
 
     Button(cmdClose, 0, L"閉じる", {3195, 6225, 1140, 375}),
 };

@@ -1,6 +1,18 @@
 #include "ui/Window.h"
 
 namespace ui {
+namespace {
+
+constexpr int kAppIconId = 1;  // in the resources
+
+// The icon in the size that these two system metrics give; shared, so it must not be destroyed.
+HICON AppIcon(int widthMetric, int heightMetric) {
+  return static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(kAppIconId),
+                                       IMAGE_ICON, GetSystemMetrics(widthMetric),
+                                       GetSystemMetrics(heightMetric), LR_SHARED));
+}
+
+}  // namespace
 
 void RegisterWindowClass(const ClassPlan& plan) {
   const HINSTANCE instance = GetModuleHandleW(nullptr);
@@ -9,8 +21,8 @@ void RegisterWindowClass(const ClassPlan& plan) {
   if (GetClassInfoExW(instance, plan.name, &windowClass)) return;
   windowClass.lpfnWndProc = plan.procedure;
   windowClass.hInstance = instance;
-  windowClass.hIcon = plan.icon;
-  windowClass.hIconSm = plan.smallIcon;
+  windowClass.hIcon = AppIcon(SM_CXICON, SM_CYICON);
+  windowClass.hIconSm = AppIcon(SM_CXSMICON, SM_CYSMICON);
   windowClass.hCursor = LoadCursorW(nullptr, plan.cursor);
   windowClass.hbrBackground = plan.background;
   windowClass.lpszClassName = plan.name;
@@ -24,8 +36,7 @@ Window::~Window() {
 }
 
 bool Window::Create(const WindowPlan& plan) {
-  RegisterWindowClass(
-      {plan.className, Thunk, IDC_ARROW, plan.background, plan.icon, plan.smallIcon});
+  RegisterWindowClass({plan.className, Thunk, IDC_ARROW, plan.background});
   const RECT& place = plan.place;
   CreateWindowExW(plan.exStyle, plan.className, plan.caption, plan.style, place.left, place.top,
                   place.right, place.bottom, plan.parentOrOwner, nullptr, GetModuleHandleW(nullptr),

@@ -12,11 +12,10 @@ struct ClassPlan {
   WNDPROC procedure;
   const wchar_t* cursor = IDC_ARROW;
   HBRUSH background = nullptr;
-  HICON icon = nullptr;
-  HICON smallIcon = nullptr;
 };
 
-// Registers a window class of this program, unless it is registered already.
+// Registers a window class of this program, with the program's icon, unless it is registered
+// already.
 void RegisterWindowClass(const ClassPlan& plan);
 
 struct WindowPlan {
@@ -25,8 +24,6 @@ struct WindowPlan {
   DWORD style = 0;
   DWORD exStyle = 0;
   HWND parentOrOwner = nullptr;
-  HICON icon = nullptr;
-  HICON smallIcon = nullptr;
   HBRUSH background = nullptr;                     // owned by the caller
   RECT place{CW_USEDEFAULT, CW_USEDEFAULT, 0, 0};  // left, top, width, height in pixels
 };

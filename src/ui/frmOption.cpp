@@ -11,25 +11,17 @@ namespace ui {
 namespace {
 
 constexpr DWORD kTabStop = WS_VISIBLE | WS_TABSTOP;
+constexpr DWORD kLabel = WS_VISIBLE | SS_NOPREFIX;
+constexpr DWORD kCheck = kTabStop | BS_AUTOCHECKBOX;
 constexpr DWORD kList = kTabStop | WS_VSCROLL | CBS_DROPDOWN | CBS_AUTOHSCROLL;
 
 constexpr std::int32_t kInnerWidth = 4125;  // twips
 constexpr std::int32_t kInnerHeight = 1605;
 
 constexpr ControlRow kRows[] = {
-    {lblHotKeyName,
-     0,
-     L"STATIC",
-     WS_VISIBLE | SS_NOPREFIX,
-     L"開始/停止キー",
-     {150, 225, 1350, 255}},
+    {lblHotKeyName, 0, L"STATIC", kLabel, L"開始/停止キー", {150, 225, 1350, 255}},
     {cmbHotKey, 0, L"COMBOBOX", kList, L"", {1530, 180, 2445, 3600}},
-    {chkEnableHotT,
-     0,
-     L"BUTTON",
-     kTabStop | BS_AUTOCHECKBOX,
-     L"Alt+T で前面に表示",
-     {150, 645, 3825, 270}},
+    {chkEnableHotT, 0, L"BUTTON", kCheck, L"Alt+T で前面に表示", {150, 645, 3825, 270}},
     {cmdClose0, 0, L"BUTTON", kTabStop | BS_DEFPUSHBUTTON, L"OK", {1575, 1080, 1140, 375}},
     {cmdClose1, 0, L"BUTTON", kTabStop | BS_PUSHBUTTON, L"キャンセル", {2835, 1080, 1140, 375}},
 };

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "capture/CaptureLoop.h"
 #include "capture/CaptureWords.h"
 #include "capture/IdleKeys.h"
 #include "capture/PointerSampling.h"
@@ -9,7 +10,6 @@
 #include "extract/Win32API_Window.h"
 #include "platform/MessagePump.h"
 #include "report/SystemReaders.h"
-#include "ui/AppIcon.h"
 #include "ui/ControlIds.h"
 #include "ui/HelpLinks.h"
 #include "ui/ProgramVersion.h"
@@ -42,21 +42,23 @@ bool frmQuorvinFromPoint::Load() {
   WindowPlan plan{kClassName};
   plan.style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
   plan.exStyle = WS_EX_CONTROLPARENT;
-  plan.icon = AppIcon(SM_CXICON, SM_CYICON);
-  plan.smallIcon = AppIcon(SM_CXSMICON, SM_CYSMICON);
   plan.background = GetSysColorBrush(COLOR_BTNFACE);
   if (!Create(plan)) return false;
   platform::AddDialog(Handle());
   system_ = capture::MakeCaptureSystem(Handle());
   readers_ = report::MakeSystemReaders(settings_);
-  loop_ = std::make_unique<capture::CaptureLoop>(
-      Context(), [this] { capture::ComposeReport(Context(), *readers_); }, plan_.commandLine);
   Form_Load();
   return true;
 }
 
 capture::CaptureContext frmQuorvinFromPoint::Context() {
   return {state_, settings_, view_, *system_};
+}
+
+void frmQuorvinFromPoint::RunCapture() {
+  const capture::CaptureContext context = Context();
+  capture::RunCapture(
+      context, [&] { capture::ComposeReport(context, *readers_); }, plan_.commandLine);
 }
 
 void frmQuorvinFromPoint::Form_Load() {
@@ -163,7 +165,7 @@ void frmQuorvinFromPoint::OnTimer(CaptureTimer timer) {
       break;
     case CaptureTimer::Timer_Go:
       view_.EnableTimer(CaptureTimer::Timer_Go, false);
-      loop_->RunCapture();
+      RunCapture();
       break;
     case CaptureTimer::Timer_End:
       Timer_End_Timer();

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "capture/CaptureLoop.h"
+#include "capture/CaptureContext.h"
 #include "capture/CaptureState.h"
 #include "capture/CaptureSystem.h"
 #include "report/ReportReaders.h"
@@ -74,6 +74,7 @@ class frmQuorvinFromPoint : public Window {
 
   void ShowMousePosTip();
   capture::CaptureContext Context();
+  void RunCapture();
 
   settings::Settings& settings_;
   capture::CaptureState& state_;
@@ -83,7 +84,6 @@ class frmQuorvinFromPoint : public Window {
   MainWindowConfig config_;
   std::unique_ptr<capture::CaptureSystem> system_;
   std::unique_ptr<report::ReportReaders> readers_;
-  std::unique_ptr<capture::CaptureLoop> loop_;
   frmSetting setting_;
   FocusMemory focus_;
   bool SplitterMoving_ = false;

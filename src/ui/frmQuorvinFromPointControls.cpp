@@ -100,7 +100,7 @@ void frmQuorvinFromPoint::OnSplitter(WPARAM event, int yPixels) {
 void frmQuorvinFromPoint::cmdGo_Click() {
   const std::wstring caption = WindowText(face_.Control(cmdGo));
   if (caption == L"開始") {
-    loop_->RunCapture();
+    RunCapture();
   } else if (caption == L"停止") {
     state_.CaptureRunning = false;
   }

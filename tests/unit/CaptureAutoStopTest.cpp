@@ -26,7 +26,7 @@ class AutoStopTest : public CaptureAutoStopTest {
       if (fake_.system.sleeps == 1) fake_.state.TargetWindow = target_;
       ASSERT_LT(fake_.system.sleeps, 2000) << "does not stop";
     };
-    loop_.RunCapture();
+    Capture();
   }
 };
 
@@ -123,7 +123,7 @@ TEST_F(AutoStopTest, AStopByHandNeitherChimesNorCloses) {
       if (byKey) fake_.system.pressed.insert(kEsc);
       if (!byKey) fake_.state.CaptureRunning = false;
     };
-    loop_.RunCapture();
+    Capture();
     EXPECT_THAT(fake_.trace, Not(Contains("chime")));
     EXPECT_THAT(fake_.trace, Not(Contains("hide window")));
     EXPECT_THAT(fake_.trace, Not(Contains("Timer_End on")));

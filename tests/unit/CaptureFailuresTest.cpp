@@ -48,7 +48,7 @@ std::vector<std::string> CallsWithFailing(const std::string& name) {
     fake.trace.push_back("report");
     if (name == "report") throw std::runtime_error("the report fails");
   };
-  CaptureLoop(fake.Context(), compose, L"").RunCapture();
+  RunCapture(fake.Context(), compose, L"");
   return fake.trace;
 }
 
@@ -69,7 +69,7 @@ TEST_F(CaptureFailuresTest, WithoutAClockItStillReportsAndStops) {
     if (fake_.system.sleeps == 7) fake_.system.pressed.insert(kEsc);
     ASSERT_LT(fake_.system.sleeps, 100);
   };
-  loop_.RunCapture();
+  Capture();
   EXPECT_EQ(fake_.system.sleeps, 7);
   EXPECT_EQ(reports_, 6);
 }

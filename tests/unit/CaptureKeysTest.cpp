@@ -18,7 +18,7 @@ TEST_F(CaptureKeysTest, TheHotKeyStops) {
     if (fake_.system.sleeps == 7) fake_.system.pressed.insert(kEsc);
     ASSERT_LT(fake_.system.sleeps, 100);
   };
-  loop_.RunCapture();
+  Capture();
   EXPECT_EQ(fake_.system.sleeps, 7);
 }
 

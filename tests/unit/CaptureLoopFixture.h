@@ -28,7 +28,13 @@ class CaptureLoopFixture : public testing::Test {
       if (inPass) inPass(fake_.system.sleeps);
       if (fake_.system.sleeps >= passes) fake_.state.CaptureRunning = false;
     };
-    loop_.RunCapture();
+    Capture();
+  }
+
+  // Until something ends it.
+  void Capture(std::wstring_view commandLine = {}) {
+    RunCapture(
+        fake_.Context(), [this] { Compose(); }, commandLine);
   }
 
   std::wstring Text(ViewText part) { return fake_.view.texts[part]; }
@@ -45,7 +51,6 @@ class CaptureLoopFixture : public testing::Test {
   int reports_ = 0;
   std::vector<std::uint32_t> reportTicks_;
   std::function<void()> compose_;
-  CaptureLoop loop_{fake_.Context(), [this] { Compose(); }, L""};
 };
 
 }  // namespace capture

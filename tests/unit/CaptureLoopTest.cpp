@@ -42,7 +42,7 @@ TEST_F(CaptureLoopTest, StartsInThisOrder) {
     EXPECT_TRUE(fake_.view.shown[ViewText::lblStatus]);
     fake_.state.CaptureRunning = false;
   };
-  loop_.RunCapture();
+  Capture();
   EXPECT_TRUE(running);
   EXPECT_EQ(runState, L"Go");
   EXPECT_EQ(targetAtStart, WindowNumber(11));  // the button's
@@ -56,7 +56,7 @@ TEST_F(CaptureLoopTest, StartsInThisOrder) {
 TEST_F(CaptureLoopTest, DoesNotStartTwice) {
   for (const std::wstring_view state : {L"Go", L"Unload"}) {
     fake_.state.RunState = state;
-    loop_.RunCapture();
+    Capture();
     EXPECT_THAT(fake_.trace, IsEmpty());
     EXPECT_FALSE(fake_.state.CaptureRunning);
   }
@@ -88,7 +88,7 @@ TEST_F(CaptureLoopTest, SleepsThenPumpsInEveryPass) {
 
 TEST_F(CaptureLoopTest, LeavesWhenTheProgramIsToEnd) {
   fake_.system.onSleep = [this] { fake_.state.RunState = kUnload; };
-  loop_.RunCapture();
+  Capture();
   EXPECT_EQ(fake_.system.sleeps, 1);
   EXPECT_THAT(fake_.trace, Contains("Timer_End on"));
   EXPECT_EQ(fake_.state.RunState, L"");
@@ -100,16 +100,14 @@ TEST_F(CaptureLoopTest, WithoutUnloadTheEndTimerStaysOff) {
 }
 
 TEST_F(CaptureLoopTest, FirstWordOfTheCommandLineTurnsDebugModeOnAtEveryStart) {
-  CaptureLoop debugLoop(
-      fake_.Context(), [] {}, L"DEBUG no_start");
   fake_.system.onSleep = [this] { fake_.state.CaptureRunning = false; };
-  debugLoop.RunCapture();
+  Capture(L"DEBUG no_start");
   EXPECT_TRUE(fake_.state.DebugMode);
   fake_.state.DebugMode = false;
-  debugLoop.RunCapture();
+  Capture(L"DEBUG no_start");
   EXPECT_TRUE(fake_.state.DebugMode);
   fake_.state.DebugMode = false;
-  loop_.RunCapture();
+  Capture();
   EXPECT_FALSE(fake_.state.DebugMode);
 }
 

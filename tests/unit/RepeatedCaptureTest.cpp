@@ -27,7 +27,8 @@ class RepeatedCaptureTest : public testing::Test {
       if (inPass) inPass();
       if (fake_.system.sleeps >= last) fake_.state.CaptureRunning = false;
     };
-    loop_.RunCapture();
+    RunCapture(
+        fake_.Context(), [this] { reportTicks_.push_back(fake_.system.now); }, L"");
     return start;
   }
 
@@ -41,13 +42,13 @@ class RepeatedCaptureTest : public testing::Test {
       ADD_FAILURE() << "does not stop";
       fake_.state.CaptureRunning = false;
     };
-    loop_.RunCapture();
+    RunCapture(
+        fake_.Context(), [this] { reportTicks_.push_back(fake_.system.now); }, L"");
     return fake_.system.now - start;
   }
 
   FakeCapture fake_;
   std::vector<std::uint32_t> reportTicks_;
-  CaptureLoop loop_{fake_.Context(), [this] { reportTicks_.push_back(fake_.system.now); }, L""};
 };
 
 TEST_F(RepeatedCaptureTest, ThePointHasToRestAnew) {

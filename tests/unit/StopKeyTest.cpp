@@ -74,9 +74,8 @@ TEST_F(StopKeyTest, APressOfTheCaptureBeforeIsForgotten) {
   fake_.state.StopKeyKept = true;
   fake_.settings.clipboard = 4;
   fake_.system.onSleep = [this] { fake_.state.CaptureRunning = false; };
-  CaptureLoop(
-      fake_.Context(), [] {}, L"")
-      .RunCapture();
+  RunCapture(
+      fake_.Context(), [] {}, L"");
   EXPECT_EQ(fake_.system.clipboard, L"(before)");
 }
 
@@ -86,20 +85,17 @@ TEST_F(StopKeyTest, TheLoopHandlesAPressFromInsideTheReport) {
   fake_.state.CapturePoint = {5, 6};
   fake_.settings.clipboard = 4;
   int reports = 0;
-  CaptureLoop loop(
-      fake_.Context(),
-      [&] {
-        ++reports;
-        Press();
-        PollStopKeyBetweenItems(fake_.Context());
-        fake_.view.texts[ViewText::TopPane] = L"新しい報告";
-      },
-      L"");
+  const auto compose = [&] {
+    ++reports;
+    Press();
+    PollStopKeyBetweenItems(fake_.Context());
+    fake_.view.texts[ViewText::TopPane] = L"新しい報告";
+  };
   fake_.system.onSleep = [this] {
     if (fake_.system.sleeps == 1) fake_.state.TargetWindow = WindowNumber(77);
     if (fake_.system.sleeps == 30) fake_.state.CaptureRunning = false;
   };
-  loop.RunCapture();
+  RunCapture(fake_.Context(), compose, L"");
   EXPECT_EQ(reports, 1);
   EXPECT_EQ(fake_.system.clipboard, L"新しい報告");
 }
