@@ -46,7 +46,7 @@ inline std::wstring ChildrenOf(HWND hwnd, const settings::Settings& settings,
 inline std::wstring TreeAt(HWND hwnd, POINT point, const settings::Settings& settings,
                            const platform::ReadSession& session) {
   platform::TextSink sink;
-  MyAccessible::ListTree(hwnd, point, settings, session, sink);
+  MyAccessible::ListTree(hwnd, {point}, settings, session, sink);
   return sink.Take();
 }
 

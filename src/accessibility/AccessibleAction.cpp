@@ -49,7 +49,7 @@ bool AccAction(std::int32_t mode, IAccessible* object, const VARIANT& child) {
   return false;
 }
 
-bool AccActionAt(std::int32_t mode, POINT point) {
+bool AccActionAt(std::int32_t mode, const platform::ReadPoint& point) {
   ObjectAndChild found;
   GetAccessibleObjAt(point, found);
   return AccAction(mode, found.object.Get(), found.child.Get());

@@ -7,6 +7,8 @@
 
 #include <cstdint>
 
+#include "platform/ReadPoint.h"
+
 namespace MyAccessible {
 
 // mode 1: the default action; 2: accSelect with SELFLAG_TAKEFOCUS; 3: accSelect with
@@ -14,7 +16,7 @@ namespace MyAccessible {
 // message box that says so. A call that fails is reported in a message box.
 bool AccAction(std::int32_t mode, IAccessible* object, const VARIANT& child);
 
-// AccAction on the object at a screen point (pixels).
-bool AccActionAt(std::int32_t mode, POINT point);
+// AccAction on the object at the read point.
+bool AccActionAt(std::int32_t mode, const platform::ReadPoint& point);
 
 }  // namespace MyAccessible

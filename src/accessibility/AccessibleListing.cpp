@@ -112,7 +112,7 @@ std::wstring ShortName(std::wstring_view name, std::int32_t accnameMax) {
 void ListChildren(HWND hwnd, const settings::Settings& settings,
                   const platform::ReadSession& session, platform::ItemSink& sink) {
   const AccessiblePtr object = GetAccessibleObj(hwnd);
-  if (!object) return sink.Text(kNoObject);
+  if (!object) return sink.EndWith(platform::Ending::kNoObject);
   ListChildrenOf(object.Get(), settings, session, sink);
 }
 
@@ -121,10 +121,10 @@ void ListChildrenOf(IAccessible* object, const settings::Settings& settings,
   Children(settings, session, sink).List(object);
 }
 
-void ListTree(HWND hwnd, POINT point, const settings::Settings& settings,
+void ListTree(HWND hwnd, const platform::ReadPoint& point, const settings::Settings& settings,
               const platform::ReadSession& session, platform::ItemSink& sink) {
   ObjectAndChild found;
-  if (!GetAccessibleObjAt(point, found)) return sink.Text(kNoObject);
+  if (!GetAccessibleObjAt(point, found)) return sink.EndWith(platform::Ending::kNoObject);
   if (GetObjectType(found.object.Get(), found.child.Get()) == L"Container") {
     ListChildren(hwnd, settings, session, sink);
   } else {

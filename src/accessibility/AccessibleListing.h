@@ -15,9 +15,6 @@
 
 namespace MyAccessible {
 
-// Shown in place of a listing when there is no accessible object. Odd, and stays: docs/ODDITIES.md.
-constexpr std::wstring_view kNoObject = L"% 取得エラー！ %";
-
 // The name; a longer one is cut to its first accnameMax characters and followed by seven full
 // stops.
 std::wstring ShortName(std::wstring_view name, std::int32_t accnameMax);
@@ -31,10 +28,10 @@ void ListChildren(HWND hwnd, const settings::Settings& settings,
 void ListChildrenOf(IAccessible* object, const settings::Settings& settings,
                     const platform::ReadSession& session, platform::ItemSink& sink);
 
-// The items of the tree view hwnd, from the first one on the level of the item at the screen point
-// (pixels). With "treeview indent" each row begins with an empty cell for every level below that.
-// When the point is not over an item, lists the children as ListChildren does.
-void ListTree(HWND hwnd, POINT point, const settings::Settings& settings,
+// The items of the tree view hwnd, from the first one on the level of the item at the read point.
+// With "treeview indent" each row begins with an empty cell for every level below that. When the
+// point is not over an item, lists the children as ListChildren does.
+void ListTree(HWND hwnd, const platform::ReadPoint& point, const settings::Settings& settings,
               const platform::ReadSession& session, platform::ItemSink& sink);
 
 // The same, with the item at the point given.

@@ -179,7 +179,8 @@ std::wstring AccessibleReportText(const ReportFacts& facts, const settings::Sett
 }
 
 std::wstring GetAccessibleMemberFromPoint(AccessibleFacts& record, const ReportedWindow& window,
-                                          POINT point, const settings::Settings& settings,
+                                          const platform::ReadPoint& point,
+                                          const settings::Settings& settings,
                                           const platform::ReadSession& session) {
   ObjectAndChild found;
   if (window.hwnd == nullptr) {

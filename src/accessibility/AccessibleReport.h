@@ -55,11 +55,12 @@ bool EdgeOverflows(const AccessibleFacts& object);
 // The report in words.
 std::wstring AccessibleReportText(const ReportFacts& facts, const settings::Settings& settings);
 
-// Reads the window's object, or without a window the object at the screen point (pixels), into
-// record and returns the report on it; empty when there is no object. What ends the report early
-// is shown in a message box, and what was built until then is returned.
+// Reads the window's object, or without a window the object at the read point, into record and
+// returns the report on it; empty when there is no object. What ends the report early is shown in a
+// message box, and what was built until then is returned.
 std::wstring GetAccessibleMemberFromPoint(AccessibleFacts& record, const ReportedWindow& window,
-                                          POINT point, const settings::Settings& settings,
+                                          const platform::ReadPoint& point,
+                                          const settings::Settings& settings,
                                           const platform::ReadSession& session);
 
 // The same for an object that was found already.

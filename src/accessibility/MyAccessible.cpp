@@ -1,5 +1,7 @@
 #include "accessibility/MyAccessible.h"
 
+#include <utility>
+
 #include "accessibility/RoleStateWords.h"
 #include "platform/ErrorReport.h"
 #include "platform/VariantValue.h"
@@ -28,6 +30,22 @@ VARIANT MakeLeftOut() {
   return child;
 }
 
+// The object of the point's window, and the child of it that is hit there.
+bool HitIn(const platform::ReadPoint& point, ObjectAndChild& found) {
+  found.object = GetAccessibleObj(point.window);
+  if (!found.object) return false;
+  platform::UniqueVariant hit;
+  const bool some = SUCCEEDED(found.object->accHitTest(point.at.x, point.at.y, hit.Receive()));
+  *found.child.Receive() = Self();
+  if (!some) return true;
+  if (AccessiblePtr inner = ObjectIn(hit.Get())) {
+    found.object = std::move(inner);
+  } else if (hit.Get().vt == VT_I4) {
+    *found.child.Receive() = hit.Get();
+  }
+  return true;
+}
+
 }  // namespace
 
 AccessiblePtr GetAccessibleObj(HWND hwnd) {
@@ -39,9 +57,10 @@ AccessiblePtr GetAccessibleObj(HWND hwnd) {
   return object;
 }
 
-bool GetAccessibleObjAt(POINT point, ObjectAndChild& found) {
+bool GetAccessibleObjAt(const platform::ReadPoint& point, ObjectAndChild& found) {
+  if (point.window != nullptr) return HitIn(point, found);
   const HRESULT result =
-      AccessibleObjectFromPoint(point, found.object.GetAddressOf(), found.child.Receive());
+      AccessibleObjectFromPoint(point.at, found.object.GetAddressOf(), found.child.Receive());
   return SUCCEEDED(result) && found.object != nullptr;
 }
 

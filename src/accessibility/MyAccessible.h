@@ -12,6 +12,7 @@
 #include <string>
 
 #include "platform/ComOwners.h"
+#include "platform/ReadPoint.h"
 
 namespace MyAccessible {
 
@@ -26,8 +27,9 @@ struct ObjectAndChild {
 // The accessible object of the window's client area; empty when there is none.
 AccessiblePtr GetAccessibleObj(HWND hwnd);
 
-// Fills found with the object at a screen point (pixels); returns whether there is one.
-bool GetAccessibleObjAt(POINT point, ObjectAndChild& found);
+// Fills found with the object at the read point; returns whether there is one. In a window that is
+// meant instead of the system's it is the window's own, or what that finds there.
+bool GetAccessibleObjAt(const platform::ReadPoint& point, ObjectAndChild& found);
 
 // The accessible object that a child variant holds; empty when it holds none.
 AccessiblePtr ObjectIn(const VARIANT& child);

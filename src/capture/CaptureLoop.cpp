@@ -5,6 +5,7 @@
 #include "capture/AutoStopCountdown.h"
 #include "capture/CaptureWords.h"
 #include "capture/PaneCopy.h"
+#include "capture/PointerSampling.h"
 #include "capture/RestTracker.h"
 #include "capture/StopKey.h"
 #include "capture/TooltipHint.h"
@@ -21,8 +22,6 @@ constexpr std::uint32_t kActionMs = 1000;
 // Time for the user to see the last text after the chime, and time for the sound to fade.
 constexpr std::uint32_t kBeforeHidingMs = 1000;
 constexpr std::uint32_t kAfterHidingMs = 2000;
-
-constexpr std::wstring_view kCapturing = L"取得中・・・・";
 
 std::int32_t ActionKey(const CaptureState& state) {
   return platform::LeadingNumber(state.ActionKeyCode);
@@ -55,6 +54,7 @@ class Capture {
     state_.RunState = kGo;
     state_.StopKeyKept = false;
     Attempt([&] { state_.TargetWindow = view_.GoButton(); });
+    state_.GivenWindow = nullptr;
     Attempt([&] { state_.CaptureStartTick = system_.TickCount(); });
     state_.LastReportTick = state_.CaptureStartTick;
     Attempt([&] { view_.SetText(ViewText::lblMsg, L"Go"); });
@@ -181,7 +181,7 @@ class Capture {
   void PollActionKey() {
     if (settings_.actionTest < 1 || !system_.IsKeyDown(ActionKey(state_))) return;
     if (system_.TickCount() - lastActionTick_ <= kActionMs) return;
-    Attempt([&] { system_.AccAction(settings_.actionTest, state_.CapturePoint); });
+    Attempt([&] { system_.AccAction(settings_.actionTest, PointToRead(state_)); });
     // Counted from the end of the action, because its message box may stay open for long.
     lastActionTick_ = system_.TickCount();
   }

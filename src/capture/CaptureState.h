@@ -25,7 +25,8 @@ struct CaptureState {
   std::wstring RunState;        // empty, "Go", or "Unload" when the program is to end
   bool DebugMode = false;
   POINT CapturePoint{};         // the point that is read, in screen pixels
-  HWND TargetWindow = nullptr;  // the window at CapturePoint; null when no capture runs
+  HWND TargetWindow = nullptr;  // the window meant at CapturePoint; null when no capture runs
+  HWND GivenWindow = nullptr;   // the one that the system gives there, mostly the same
   std::wstring ActionKeyCode;   // virtual-key code, in decimal
   std::wstring VersionText;     // for the caption
   std::int32_t TwipsPerPixelX = 0;

@@ -4,6 +4,7 @@
 #include "capture/Chime.h"
 #include "extract/ControlText.h"
 #include "extract/Win32API_Window.h"
+#include "extract/WindowAtPoint.h"
 #include "platform/Clipboard.h"
 #include "platform/MessagePump.h"
 #include "settings/MyKeyboard.h"
@@ -26,6 +27,7 @@ class WindowsCaptureSystem : public CaptureSystem {
     return point;
   }
   HWND WindowAt(POINT point) override { return WindowFromPoint(point); }
+  HWND WindowMeant(HWND given, POINT point) override { return extract::WindowMeant(given, point); }
   HWND Parent(HWND hwnd) override { return GetParent(hwnd); }
   HWND TopParent(HWND hwnd) override { return Win32API_Window::GetTopParent(hwnd); }
   POINT ToClient(HWND hwnd, POINT point) override {
@@ -47,8 +49,9 @@ class WindowsCaptureSystem : public CaptureSystem {
   }
   void PlayChime(const std::wstring& file) override { capture::PlayChime(file); }
   std::wstring TooltipText() override { return extract::GetTooltipText(); }
-  void AccAction(std::int32_t mode, POINT point) override {
-    MyAccessible::AccActionAt(mode, point);
+  void AccAction(std::int32_t mode, const platform::ReadPoint& point) override {
+    const HWND window = point.window == nullptr ? WindowFromPoint(point.at) : point.window;
+    if (!IsHungAppWindow(window)) MyAccessible::AccActionAt(mode, point);
   }
 
  private:

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "platform/Interface.h"
+#include "platform/ReadPoint.h"
 
 namespace capture {
 
@@ -20,6 +21,8 @@ class CaptureSystem : public platform::Interface {
 
   virtual POINT CursorPosition() = 0;
   virtual HWND WindowAt(POINT point) = 0;
+  // The window that is meant where the system gives that one.
+  virtual HWND WindowMeant(HWND given, POINT point) = 0;
   virtual HWND Parent(HWND hwnd) = 0;
   virtual HWND TopParent(HWND hwnd) = 0;
   virtual POINT ToClient(HWND hwnd, POINT point) = 0;
@@ -32,7 +35,7 @@ class CaptureSystem : public platform::Interface {
   virtual bool PutOnClipboard(const std::wstring& text) = 0;
   virtual void PlayChime(const std::wstring& file) = 0;
   virtual std::wstring TooltipText() = 0;
-  virtual void AccAction(std::int32_t mode, POINT point) = 0;
+  virtual void AccAction(std::int32_t mode, const platform::ReadPoint& point) = 0;
 };
 
 // The real one. owner is the window that owns what is put on the clipboard.

@@ -11,6 +11,9 @@
 
 namespace capture {
 
+// What lblMsg shows during a report.
+constexpr std::wstring_view kCapturing = L"取得中・・・・";
+
 // x right-aligned in 4 characters, "-", y right-aligned in 3; longer numbers are not cut. Odd, and
 // stays: docs/ODDITIES.md.
 std::wstring FormatMousePosition(POINT point);

@@ -1,5 +1,7 @@
 #include "capture/PointerSampling.h"
 
+#include <utility>
+
 #include "capture/CaptureWords.h"
 #include "platform/Rounding.h"
 
@@ -12,18 +14,31 @@ POINT Shifted(POINT point, const settings::Settings& set) {
           platform::ClampToInt32(std::int64_t{point.y} + set.shifty)};
 }
 
+bool SamePoint(POINT a, POINT b) { return a.x == b.x && a.y == b.y; }
+
 }  // namespace
+
+platform::ReadPoint PointToRead(const CaptureState& state) {
+  const bool meant = state.GivenWindow != nullptr && state.GivenWindow != state.TargetWindow;
+  return {state.CapturePoint, meant ? state.TargetWindow : nullptr};
+}
 
 void SamplePointer(const CaptureContext& context) {
   CaptureState& state = context.state;
   CaptureSystem& system = context.system;
   if (!state.CaptureRunning) {
     state.TargetWindow = nullptr;
+    state.GivenWindow = nullptr;
     return;
   }
   POINT shown = system.CursorPosition();
-  state.CapturePoint = Shifted(shown, context.settings);
-  state.TargetWindow = system.WindowAt(state.CapturePoint);
+  const POINT before = std::exchange(state.CapturePoint, Shifted(shown, context.settings));
+  const HWND given = system.WindowAt(state.CapturePoint);
+  // While pointer and window stay, nothing more is asked.
+  if (given != state.GivenWindow || !SamePoint(before, state.CapturePoint)) {
+    state.TargetWindow = system.WindowMeant(given, state.CapturePoint);
+    state.GivenWindow = given;
+  }
   if (context.settings.mousPos == L"client") {
     // Relative to the parent (a dialog), not to the control in it.
     const HWND parent = system.Parent(state.TargetWindow);

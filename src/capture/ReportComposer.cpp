@@ -6,10 +6,12 @@
 
 #include "capture/CaptureWords.h"
 #include "capture/OutputDelivery.h"
+#include "capture/PointerSampling.h"
 #include "capture/StopKey.h"
 #include "extract/StringUtilities.h"
 #include "platform/HandleText.h"
 #include "report/ElementTable.h"
+#include "report/Remark.h"
 
 namespace capture {
 namespace {
@@ -26,7 +28,7 @@ class Report {
         delivery_(context.view),
         // Readers pump messages, which may change the target; this report keeps its own.
         target_(context.state.TargetWindow),
-        point_(context.state.CapturePoint),
+        point_(PointToRead(context.state)),
         window_{target_, {}, {}, {}} {}
 
   void Compose() {
@@ -34,7 +36,7 @@ class Report {
     ReadWindow();
     ClearSlots();
     ReadTextAtPoint();
-    if (category_ == report::Category::Ie) {
+    if (category_ == report::Category::Ie && !missing_.hung) {
       // The element report takes the slot of the window's information.
       if (!ReadPage()) ShowWindowInformation();
     } else {
@@ -43,6 +45,7 @@ class Report {
     }
     ReadAccessible();
     ReadStatus();
+    ShowRemark();
   }
 
  private:
@@ -66,16 +69,19 @@ class Report {
   }
 
   void ReadWindow() {
+    Attempt([&] { missing_.hung = readers_.IsHung(target_); });
     Attempt([&] { window_ = readers_.Facts(target_); });
     SetText(ViewText::txtWin0, window_.className);
     category_ = report::CategoryOf(window_.className);
   }
 
-  // Whether it is safe to make calls that wait for the target's thread. Only pages are tested: they
-  // hang most often, and their reader has waited for them already.
+  // Whether it is safe to make calls that wait for the target's thread. Beyond what the system
+  // knows only pages are tested: they hang most often, and their reader has waited for them
+  // already.
   bool Answers() const {
-    bool answers = true;
-    if (category_ == report::Category::Ie) Attempt([&] { answers = readers_.Answers(target_); });
+    bool answers = !missing_.hung;
+    if (answers && category_ == report::Category::Ie)
+      Attempt([&] { answers = readers_.Answers(target_); });
     return answers;
   }
 
@@ -88,15 +94,18 @@ class Report {
     Attempt([&] { context_.view.SetVisible(ViewText::txtCount, true); });
   }
 
-  void ReadTextAtPoint() const {
+  void ReadTextAtPoint() {
     extract::TextReading reading;
     Attempt([&] {
+      if (missing_.hung) return;
       if (Set().fromHwnd != 1) {
         reading = readers_.TextFromPoint(point_, MessageLine());
       } else if (Answers()) {
         reading.text = readers_.NameOfWindow(target_);
       }
     });
+    missing_.noText = reading.text.empty();
+    NoteCut(reading);
     SetText(ViewText::txtWin3, reading.text);
     SetText(ViewText::lblTextKind, reading.method);
     State().TopTexts[2] = WithLineEnds(reading.text);
@@ -124,11 +133,12 @@ class Report {
     const platform::ReadSession session = Session([](const std::wstring&) {});
     std::optional<MyInternetexplore::PageFacts> page;
     Attempt([&] {
-      page = readers_.Page({window, point_, session, MessageLine(),
+      page = readers_.Page({window, point_.at, session, MessageLine(),
                             [this](const MyInternetexplore::PageTexts& texts) { Keep(texts); }});
     });
     if (!page) return false;
 
+    missing_.noText = false;
     State().BottomTexts[1] = report::ElementReport(*page, Set().htmlTagTextLength);
     SetText(ViewText::txtWin1, page->chain.empty()
                                    ? std::wstring()
@@ -157,7 +167,13 @@ class Report {
       count_ = progress;
       SetText(ViewText::txtCount, progress);
     });
-    Attempt([&] { reading = readers_.Control(category_, {target_, point_, session}); });
+    Attempt([&] {
+      if (missing_.hung) return;
+      reading = readers_.Control(category_, {target_, window_.className, point_, session});
+    });
+    if (report::HoldsText(reading.text)) missing_.noText = false;
+    missing_.listOmitted = reading.restOmitted;
+    NoteCut(reading);
     SetText(ViewText::lblListKind, reading.method);
     State().BottomTexts[1].clear();
     State().BottomTexts[2] = std::move(reading.text);
@@ -201,13 +217,33 @@ class Report {
     SetText(ViewText::txtStatus, text);
   }
 
+  void NoteCut(const extract::TextReading& reading) {
+    if (reading.whole == 0) return;
+    missing_.whole = reading.whole;
+    missing_.shown = reading.text.size();
+  }
+
+  void ShowRemark() {
+    if (missing_.noText && !missing_.hung) {
+      Attempt([&] { missing_.outOfReach = readers_.IsOutOfReach(target_); });
+    }
+    // A reader may have put a message of its own there.
+    Attempt([&] {
+      const std::wstring remark = report::RemarkText(missing_);
+      if (!remark.empty() && context_.view.Text(ViewText::lblMsg) == kCapturing) {
+        context_.view.SetText(ViewText::lblMsg, remark);
+      }
+    });
+  }
+
   const CaptureContext& context_;
   report::ReportReaders& readers_;
   PaneDelivery delivery_;
   const HWND target_;
-  const POINT point_;
+  const platform::ReadPoint point_;
   report::WindowFacts window_;
   report::Category category_ = report::Category::Other;
+  report::Missing missing_;
   std::wstring count_;  // what the list's reader showed last
 };
 

@@ -7,6 +7,7 @@
 #include "accessibility/MyAccessible.h"
 #include "extract/StringUtilities.h"
 #include "extract/Win32API_Window.h"
+#include "platform/SecondSink.h"
 #include "platform/WindowEnumeration.h"
 
 namespace extract {
@@ -25,6 +26,8 @@ std::vector<HWND> VisibleTopLevelWindows(std::wstring_view classPart) {
   return found;
 }
 
+constexpr Method kByMessage = L"WM_GETTEXT";
+
 constexpr std::wstring_view kTooltipClasses[] = {L"tooltip", L"vbbubblert6"};
 
 }  // namespace
@@ -34,11 +37,24 @@ std::wstring MyGetControlText(HWND hwnd) {
   return name.empty() ? Win32API_Window::WindowTextByMessage(hwnd) : name;
 }
 
-Method MyGetEditItem(HWND hwnd, platform::ItemSink& sink) {
-  const std::wstring text = Win32API_Window::WindowTextByMessage(hwnd);
+TextReading ReadWindowText(HWND hwnd, bool whole) {
+  std::wstring text =
+      whole ? Win32API_Window::WholeWindowText(hwnd) : Win32API_Window::WindowTextByMessage(hwnd);
   if (text.empty()) return {};
-  sink.Text(text);
-  return L"WM_GETTEXT";
+  TextReading reading{std::move(text), std::wstring(kByMessage)};
+  if (!whole && reading.text.size() == Win32API_Window::kMostText) {
+    const std::size_t length = Win32API_Window::WindowTextLength(hwnd);
+    if (length > reading.text.size()) reading.whole = length;
+  }
+  return reading;
+}
+
+Method MyGetEditItem(HWND hwnd, platform::ItemSink& sink, bool whole) {
+  const TextReading reading = ReadWindowText(hwnd, whole);
+  if (reading.text.empty()) return {};
+  sink.Text(reading.text);
+  if (reading.whole != 0) sink.IsStartOf(reading.whole);
+  return kByMessage;
 }
 
 Method GetChildText(HWND hwnd, platform::ItemSink& sink) {
@@ -53,9 +69,15 @@ Method GetChildText(HWND hwnd, platform::ItemSink& sink) {
   return kByAccessibleObject;
 }
 
-Method GetOther(HWND hwnd, const ChildrenListing& listing, platform::ItemSink& sink) {
-  // Also the mark of a failed listing: the user should see it.
+Method GetOther(HWND hwnd, const ChildrenListing& listing, const FurtherWay& further,
+                platform::ItemSink& sink) {
   listing(sink);
+  if (further && !sink.HasText()) {
+    platform::SecondSink second(sink);
+    const Method method = further(second);
+    if (second.HasText()) return method;
+  }
+  // Also the mark of a failed listing: the user should see it.
   return sink.Size() == 0 ? GetChildText(hwnd, sink) : kByAccessibleObject;
 }
 
@@ -69,7 +91,8 @@ HWND GethWndTooltips() {
 
 std::wstring GetTooltipText() {
   const HWND tooltip = GethWndTooltips();
-  return tooltip == nullptr ? std::wstring() : MyGetControlText(tooltip);
+  return tooltip == nullptr || IsHungAppWindow(tooltip) ? std::wstring()
+                                                        : MyGetControlText(tooltip);
 }
 
 }  // namespace extract

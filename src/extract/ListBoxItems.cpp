@@ -43,12 +43,19 @@ std::size_t BufferFor(std::int32_t length) {
 // text.
 bool IsDataSize(std::int32_t length) { return length == 4 || length == 8; }
 
+// Whether the text message gives a value of the owner's in place of a text.
+bool GivesData(const ListKind& kind, HWND hwnd, ControlMessages& messages) {
+  // An extended combo box passes the messages on to the combo box in it, which it draws.
+  const HWND inner = FindWindowExW(hwnd, nullptr, L"ComboBox", nullptr);
+  const DWORD style = messages.StyleOf(inner == nullptr ? hwnd : inner);
+  return (style & kind.ownerDrawn) != 0 && (style & kind.hasTexts) == 0;
+}
+
 class ItemSource {
  public:
   ItemSource(const ListKind& kind, HWND hwnd, ControlMessages& messages)
       : kind_(kind), hwnd_(hwnd), messages_(messages) {
-    const DWORD style = messages.StyleOf(hwnd);
-    givesData_ = (style & kind.ownerDrawn) != 0 && (style & kind.hasTexts) == 0;
+    givesData_ = GivesData(kind, hwnd, messages);
   }
 
   std::int32_t Count() const { return messages_.Send(hwnd_, kind_.count, 0, 0); }
@@ -77,7 +84,7 @@ class ItemSource {
   const ListKind& kind_;
   HWND hwnd_;
   ControlMessages& messages_;
-  bool givesData_;  // the text message gives a value of the owner's in place of a text
+  bool givesData_ = false;
   platform::GuardedBuffer buffer_;
   std::size_t used_ = 0;
 };
@@ -107,6 +114,14 @@ Method MyGetListBoxItem(HWND hwnd, const platform::ReadSession& session, platfor
 Method MyGetComboBoxItem(HWND hwnd, const platform::ReadSession& session, platform::ItemSink& sink,
                          const ControlAccess& access) {
   return ReadItems(kComboBox, hwnd, session, sink, access);
+}
+
+bool ListBoxHasNoTexts(HWND hwnd, const ControlAccess& access) {
+  return GivesData(kListBox, hwnd, access.messages);
+}
+
+bool ComboBoxHasNoTexts(HWND hwnd, const ControlAccess& access) {
+  return GivesData(kComboBox, hwnd, access.messages);
 }
 
 }  // namespace extract

@@ -17,4 +17,8 @@ Method MyGetListBoxItem(HWND hwnd, const platform::ReadSession& session, platfor
 Method MyGetComboBoxItem(HWND hwnd, const platform::ReadSession& session, platform::ItemSink& sink,
                          const ControlAccess& access = SystemAccess());
 
+// Whether the control is drawn by its owner from data of the owner's, and holds no texts itself.
+bool ListBoxHasNoTexts(HWND hwnd, const ControlAccess& access = SystemAccess());
+bool ComboBoxHasNoTexts(HWND hwnd, const ControlAccess& access = SystemAccess());
+
 }  // namespace extract

@@ -32,9 +32,6 @@ constexpr std::int32_t kCapacity = 512;
 constexpr BlockSize kRecordBlock{sizeof(ItemRecord), "40", sizeof(ItemRecord)};
 constexpr BlockSize kTextBlock{kTextSize, "256", 512};
 
-// Larger counts are limited to this, because the reader yields only after each row.
-constexpr std::int32_t kMostColumns = 1024;
-
 class CellSource {
  public:
   CellSource(HWND hwnd, const ControlAccess& access, DWORD processId)

@@ -14,6 +14,9 @@ namespace extract {
 // The value of the setting "listview col" that matters here; with others all columns are read.
 constexpr std::int32_t kFirstColumnOnly = 2;
 
+// Larger counts are limited to this, because the reader yields only after each row.
+constexpr std::int32_t kMostColumns = 1024;
+
 // Reads the window through its accessible object.
 using AccessibleReader = std::function<void(platform::ItemSink& sink)>;
 

@@ -4,6 +4,8 @@
 
 #include <windows.h>
 
+#include <cstdint>
+
 #include "platform/Interface.h"
 
 namespace MyMapView {
@@ -27,6 +29,11 @@ class MemoryCalls : public platform::Interface {
   virtual BOOL ReadProcessMemory(HANDLE process, const void* address, void* data, SIZE_T size) {
     return ::ReadProcessMemory(process, address, data, size, nullptr);
   }
+
+  // The same at any address of a 64-bit process. NtWow64ReadVirtualMemory64 is a system call of
+  // 64-bit systems alone; FALSE where there is none.
+  virtual BOOL NtWow64ReadVirtualMemory64(HANDLE process, std::uint64_t address, void* data,
+                                          SIZE_T size);
 
   virtual HANDLE OpenFileMappingA(DWORD access, BOOL inherit, const char* name) {
     return ::OpenFileMappingA(access, inherit, name);
@@ -53,9 +60,6 @@ class MemoryCalls : public platform::Interface {
 };
 
 // The real calls.
-inline MemoryCalls& SystemMemoryCalls() {
-  static MemoryCalls calls;
-  return calls;
-}
+MemoryCalls& SystemMemoryCalls();
 
 }  // namespace MyMapView

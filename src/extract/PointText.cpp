@@ -4,6 +4,7 @@
 
 #include "accessibility/MyAccessible.h"
 #include "browser/ElementReaders.h"
+#include "extract/ControlText.h"
 #include "extract/StringUtilities.h"
 #include "extract/Win32API_Window.h"
 #include "platform/LineEnd.h"
@@ -26,17 +27,19 @@ TextReading ElementText(const ElementTexts& element) {
 
 class ScreenPoint : public PointSources {
  public:
-  ScreenPoint(POINT point, const MyInternetexplore::BrowserAccess& browser,
+  ScreenPoint(const platform::ReadPoint& point, bool whole,
+              const MyInternetexplore::BrowserAccess& browser,
               const MyInternetexplore::ShowMessage& showMessage)
       : point_(point),
-        hwnd_(WindowFromPoint(point)),
+        hwnd_(point.window == nullptr ? WindowFromPoint(point.at) : point.window),
+        whole_(whole),
         browser_(browser),
         showMessage_(showMessage) {}
 
   std::wstring ClassName() override { return Win32API_Window::MyGetClassName(hwnd_); }
   std::optional<ElementTexts> Element() override {
     const MyInternetexplore::ElementPtr element =
-        MyInternetexplore::GetElByPos(point_.x, point_.y, browser_, showMessage_);
+        MyInternetexplore::GetElByPos(point_.at.x, point_.at.y, browser_, showMessage_);
     if (!element) return std::nullopt;
     return ElementTexts{MyInternetexplore::GetElValue(element.Get()),
                         MyInternetexplore::GetElTagName(element.Get()),
@@ -51,7 +54,7 @@ class ScreenPoint : public PointSources {
     return Found() ? MyAccessible::AccName(found_.object.Get(), found_.child.Get())
                    : std::wstring();
   }
-  std::wstring WindowText() override { return Win32API_Window::WindowTextByMessage(hwnd_); }
+  TextReading WindowText() override { return ReadWindowText(hwnd_, whole_); }
 
  private:
   bool Found() {
@@ -60,8 +63,9 @@ class ScreenPoint : public PointSources {
     return exists_;
   }
 
-  POINT point_;
+  platform::ReadPoint point_;
   HWND hwnd_;
+  bool whole_;
   const MyInternetexplore::BrowserAccess& browser_;
   const MyInternetexplore::ShowMessage& showMessage_;
   bool searched_ = false;
@@ -94,16 +98,21 @@ TextReading TextAtPoint(PointSources& sources, std::wstring_view classList, bool
     return {std::move(text), L"Accessible"};
   }
 
-  text = sources.WindowText();
-  if (text.empty()) return {};
-  return {std::move(text), L"WM_GETTEXT"};
+  return sources.WindowText();
 }
 
 TextReading MyGetControlTextFromPoint(int x, int y, std::wstring_view classList, bool firstLineOnly,
                                       const MyInternetexplore::BrowserAccess& browser,
                                       const MyInternetexplore::ShowMessage& showMessage) {
-  ScreenPoint sources({x, y}, browser, showMessage);
+  ScreenPoint sources({{x, y}}, false, browser, showMessage);
   return TextAtPoint(sources, classList, firstLineOnly);
+}
+
+TextReading ReadTextAtPoint(const platform::ReadPoint& point, std::wstring_view classList,
+                            bool whole, const MyInternetexplore::BrowserAccess& browser,
+                            const MyInternetexplore::ShowMessage& showMessage) {
+  ScreenPoint sources(point, whole, browser, showMessage);
+  return TextAtPoint(sources, classList, false);
 }
 
 }  // namespace extract

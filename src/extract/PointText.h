@@ -10,6 +10,7 @@
 #include "browser/MyInternetexplore.h"
 #include "extract/TextReading.h"
 #include "platform/Interface.h"
+#include "platform/ReadPoint.h"
 
 namespace extract {
 
@@ -28,7 +29,7 @@ class PointSources : public platform::Interface {
   virtual bool Answers() = 0;  // whether the window answers messages
   virtual std::wstring AccessibleValue() = 0;
   virtual std::wstring AccessibleName() = 0;
-  virtual std::wstring WindowText() = 0;  // by WM_GETTEXT
+  virtual TextReading WindowText() = 0;  // by WM_GETTEXT
 };
 
 // Whether the accessible value is read first: className occurs anywhere in classList, without
@@ -45,5 +46,11 @@ TextReading TextAtPoint(PointSources& sources, std::wstring_view classList, bool
 TextReading MyGetControlTextFromPoint(int x, int y, std::wstring_view classList, bool firstLineOnly,
                                       const MyInternetexplore::BrowserAccess& browser,
                                       const MyInternetexplore::ShowMessage& showMessage);
+
+// The same at a read point, with every line. whole: the window's own text is read to its end, not
+// only its first 4095 characters.
+TextReading ReadTextAtPoint(const platform::ReadPoint& point, std::wstring_view classList,
+                            bool whole, const MyInternetexplore::BrowserAccess& browser,
+                            const MyInternetexplore::ShowMessage& showMessage);
 
 }  // namespace extract

@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <cstring>
 #include <optional>
 
+#include "extract/ItemRecords.h"
 #include "extract/TargetBlock.h"
 
 namespace extract {
@@ -15,30 +17,8 @@ namespace {
 constexpr SIZE_T kTextSize = 256;
 constexpr BlockSize kTextBlock{kTextSize, "256", kTextSize};
 
-// As the common controls of a 32-bit and of a 64-bit process expect it. With a record of the wrong
-// kind the control would write to a wrong address.
-struct TabRecord32 {
-  std::uint32_t mask;
-  std::uint32_t state;
-  std::uint32_t stateMask;
-  std::uint32_t text;
-  std::int32_t capacity;
-  std::int32_t image;
-  std::uint32_t data;
-};
-static_assert(sizeof(TabRecord32) == 28);
-
-struct TabRecord64 {
-  std::uint32_t mask;
-  std::uint32_t state;
-  std::uint32_t stateMask;
-  std::uint32_t gap;
-  std::uint64_t text;
-  std::int32_t capacity;
-  std::int32_t image;
-  std::uint64_t data;
-};
-static_assert(sizeof(TabRecord64) == 40);
+using TabRecord32 = TabItemRecord<std::uint32_t>;
+using TabRecord64 = TabItemRecord<std::uint64_t>;
 
 constexpr BlockSize kRecordBlock32{sizeof(TabRecord32), "28", sizeof(TabRecord32)};
 constexpr BlockSize kRecordBlock64{sizeof(TabRecord64), "40", sizeof(TabRecord64)};
@@ -71,7 +51,8 @@ class TabSource {
  private:
   template <typename Record>
   void WriteRecord() {
-    Record record{};
+    Record record;
+    std::memset(static_cast<void*>(&record), 0, sizeof record);  // gaps too
     record.mask = TCIF_TEXT;
     record.text = text_.Address();
     record.capacity = kTextSize;

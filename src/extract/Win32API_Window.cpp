@@ -1,5 +1,7 @@
 #include "extract/Win32API_Window.h"
 
+#include <algorithm>
+
 #include "extract/StringUtilities.h"
 
 namespace Win32API_Window {
@@ -8,10 +10,17 @@ namespace {
 constexpr int kClassNameLength = 128;
 // Captions and texts have different sizes. Odd, and stays: docs/ODDITIES.md.
 constexpr int kCaptionLength = 9192;
-constexpr int kTextLength = 4096;
+constexpr std::size_t kLongestText = 1U << 26;
 
 // May occur in a caption. Odd, and stays: docs/ODDITIES.md.
 constexpr std::wstring_view kLineFeedMark = L"%!LF!%";
+
+// size: characters, the zero character included.
+std::wstring TextOfSize(HWND hwnd, std::size_t size) {
+  std::wstring buffer(size, L'\0');
+  SendMessageW(hwnd, WM_GETTEXT, size, reinterpret_cast<LPARAM>(buffer.data()));
+  return extract::UpToNul(buffer);
+}
 
 }  // namespace
 
@@ -32,10 +41,21 @@ std::wstring MyGetWindowText(HWND hwnd) {
   return extract::WithCrLf(extract::UpToNul(buffer), kLineFeedMark);
 }
 
-std::wstring WindowTextByMessage(HWND hwnd) {
-  std::wstring buffer(kTextLength, L'\0');
-  SendMessageW(hwnd, WM_GETTEXT, kTextLength, reinterpret_cast<LPARAM>(buffer.data()));
-  return extract::UpToNul(buffer);
+std::wstring WindowTextByMessage(HWND hwnd) { return TextOfSize(hwnd, kMostText + 1); }
+
+std::size_t WindowTextLength(HWND hwnd) {
+  const LRESULT length = SendMessageW(hwnd, WM_GETTEXTLENGTH, 0, 0);
+  return length > 0 ? static_cast<std::size_t>(length) : 0;
+}
+
+std::wstring WholeWindowText(HWND hwnd) {
+  return TextOfSize(hwnd, std::clamp(WindowTextLength(hwnd), kMostText, kLongestText) + 1);
+}
+
+std::wstring StoredWindowText(HWND hwnd) {
+  std::wstring buffer(kCaptionLength, L'\0');
+  InternalGetWindowText(hwnd, buffer.data(), kCaptionLength);
+  return extract::WithCrLf(extract::UpToNul(buffer), kLineFeedMark);
 }
 
 BOOL SetTopMost(HWND hwnd) {

@@ -8,7 +8,7 @@ namespace platform {
 
 void TextSink::Cell(std::wstring_view text) {
   if (inRow_) text_ += L'\t';
-  text_ += text;
+  Text(text);
   inRow_ = true;
 }
 
@@ -17,9 +17,13 @@ void TextSink::EndRow() {
   inRow_ = false;
 }
 
-void TextSink::Text(std::wstring_view text) { text_ += text; }
+void TextSink::Text(std::wstring_view text) {
+  text_ += text;
+  hasText_ = hasText_ || !text.empty();
+}
 
 void TextSink::EndWith(Ending ending) {
+  ending_ = ending;
   switch (ending) {
     case Ending::kInterrupted:
       text_ += kInterruptedMark;
@@ -27,17 +31,24 @@ void TextSink::EndWith(Ending ending) {
     case Ending::kRestOmitted:
       text_.append(kRestOmittedLine).append(kCrLf);
       break;
+    case Ending::kNoObject:
+      text_ += kNoObjectMark;
+      break;
   }
 }
 
 void TextSink::Discard() {
   text_.clear();
   inRow_ = false;
+  hasText_ = false;
+  whole_ = 0;
+  ending_.reset();
 }
 
 std::wstring TextSink::Take() {
-  inRow_ = false;
-  return std::exchange(text_, {});
+  std::wstring text = std::move(text_);
+  Discard();
+  return text;
 }
 
 }  // namespace platform

@@ -1,12 +1,20 @@
 #include "report/ControlReading.h"
 
+#include <optional>
+
 #include "accessibility/AccessibleListing.h"
+#include "extract/CaptionItems.h"
 #include "extract/ControlText.h"
 #include "extract/CsvText.h"
 #include "extract/ListBoxItems.h"
 #include "extract/ListViewItems.h"
+#include "extract/ListViewRows.h"
+#include "extract/StringUtilities.h"
 #include "extract/TabControlItems.h"
 #include "extract/ToolbarItems.h"
+#include "extract/TreeViewItems.h"
+#include "extract/Win32API_Window.h"
+#include "platform/SecondSink.h"
 #include "platform/TextSink.h"
 
 namespace report {
@@ -17,87 +25,150 @@ using platform::ItemSink;
 
 struct Reading {
   const HWND hwnd;
+  const platform::ReadSession& session;
   const ControlRead& control;
   const settings::Settings& settings;
-
-  void ListChildren(ItemSink& sink) const {
-    MyAccessible::ListChildren(hwnd, settings, control.session, sink);
-  }
 };
 
-struct CategoryReader {
+Method ListChildren(const Reading& from, ItemSink& sink) {
+  MyAccessible::ListChildren(from.hwnd, from.settings, from.session, sink);
+  return extract::kByAccessibleObject;
+}
+
+Method ListViewRows(const Reading& from, ItemSink& sink) {
+  return extract::GetListViewRows(from.hwnd, from.session, sink, from.settings.listviewCol);
+}
+
+Method ComboBoxExItems(const Reading& from, ItemSink& sink) {
+  const HWND extended = extract::ComboBoxExOf(from.hwnd);
+  return extended == nullptr ? Method{} : extract::GetComboBoxExItem(extended, from.session, sink);
+}
+
+// The parts of controls that have no category of their own.
+Method PartsOf(const Reading& from, ItemSink& sink) {
+  if (extract::ContainsIgnoringCase(from.control.className, L"SysHeader32")) {
+    return extract::GetHeaderItem(from.hwnd, from.session, sink);
+  }
+  if (extract::ContainsIgnoringCase(from.control.className, L"statusbar32")) {
+    return extract::GetStatusBarItem(from.hwnd, from.session, sink);
+  }
+  return {};
+}
+
+enum class When { kAlways, kReadingWhole };  // the setting "read whole"
+
+struct Way {
   Category category;
+  When when;
   Method (*read)(const Reading& from, ItemSink& sink);
 };
 
-// Documents are read by ReportReaders::Page, and browsers' frame windows not at all.
-constexpr CategoryReader kReaders[] = {
-    {Category::Edit,
-     [](const Reading& from, ItemSink& sink) { return extract::MyGetEditItem(from.hwnd, sink); }},
-    {Category::ListBox,
+// The ways of a category in their order. Documents are read by ReportReaders::Page, and browsers'
+// frame windows not at all.
+constexpr Way kWays[] = {
+    {Category::Edit, When::kAlways,
      [](const Reading& from, ItemSink& sink) {
-       return extract::MyGetListBoxItem(from.hwnd, from.control.session, sink);
+       return extract::MyGetEditItem(from.hwnd, sink, from.settings.readWhole == 1);
      }},
-    {Category::ComboBox,
+    {Category::ListBox, When::kAlways,
      [](const Reading& from, ItemSink& sink) {
-       return extract::MyGetComboBoxItem(from.hwnd, from.control.session, sink);
+       return extract::MyGetListBoxItem(from.hwnd, from.session, sink);
      }},
-    {Category::ComboLBox,
+    {Category::ListBox, When::kAlways,
      [](const Reading& from, ItemSink& sink) {
-       from.ListChildren(sink);
+       return extract::ListBoxHasNoTexts(from.hwnd) ? ListChildren(from, sink) : Method{};
+     }},
+    {Category::ComboBox, When::kAlways,
+     [](const Reading& from, ItemSink& sink) {
+       return extract::MyGetComboBoxItem(from.hwnd, from.session, sink);
+     }},
+    {Category::ComboBox, When::kAlways, ComboBoxExItems},
+    {Category::ComboBox, When::kAlways,
+     [](const Reading& from, ItemSink& sink) {
+       return extract::ComboBoxHasNoTexts(from.hwnd) ? ListChildren(from, sink) : Method{};
+     }},
+    {Category::ComboLBox, When::kAlways,
+     [](const Reading& from, ItemSink& sink) {
+       ListChildren(from, sink);
        return Method{};
      }},
-    {Category::ListView,
+    {Category::ListView, When::kReadingWhole, ListViewRows},
+    {Category::ListView, When::kAlways,
      [](const Reading& from, ItemSink& sink) {
-       return extract::GetListViewItem(from.hwnd, from.control.session, sink,
-                                       from.settings.listviewCol,
-                                       [&from](ItemSink& items) { from.ListChildren(items); });
+       return extract::GetListViewItem(from.hwnd, from.session, sink, from.settings.listviewCol,
+                                       [&from](ItemSink& items) { ListChildren(from, items); });
      }},
-    {Category::TreeView,
+    {Category::ListView, When::kAlways, ListViewRows},
+    {Category::TreeView, When::kAlways,
      [](const Reading& from, ItemSink& sink) {
-       MyAccessible::ListTree(from.hwnd, from.control.point, from.settings, from.control.session,
-                              sink);
+       MyAccessible::ListTree(from.hwnd, from.control.readPoint, from.settings, from.session, sink);
        return Method{};
      }},
-    {Category::ToolBar,
+    {Category::TreeView, When::kAlways,
      [](const Reading& from, ItemSink& sink) {
-       return extract::GetToolbarItem(from.hwnd, from.control.session, sink);
+       return extract::GetTreeViewItem(
+           from.hwnd, from.session, sink,
+           {from.settings.treeviewIndent == 1, from.settings.accnameMax});
      }},
-    {Category::TabControl,
+    {Category::ToolBar, When::kAlways,
      [](const Reading& from, ItemSink& sink) {
-       return extract::GetTabControlItem(from.hwnd, from.control.session, sink);
+       return extract::GetToolbarItem(from.hwnd, from.session, sink);
      }},
-    {Category::ToolTips,
+    {Category::ToolBar, When::kAlways, ListChildren},
+    {Category::TabControl, When::kAlways,
+     [](const Reading& from, ItemSink& sink) {
+       return extract::GetTabControlItem(from.hwnd, from.session, sink);
+     }},
+    {Category::ToolTips, When::kAlways,
      [](const Reading&, ItemSink& sink) {
        sink.Text(extract::GetTooltipText());
        return Method{};
      }},
-    {Category::Other,
+    {Category::Other, When::kAlways,
      [](const Reading& from, ItemSink& sink) {
        return extract::GetOther(
-           from.hwnd, [&from](ItemSink& items) { from.ListChildren(items); }, sink);
+           from.hwnd, [&from](ItemSink& items) { ListChildren(from, items); },
+           [&from](ItemSink& parts) { return PartsOf(from, parts); }, sink);
      }},
-    {Category::Child,
+    {Category::Child, When::kAlways,
      [](const Reading& from, ItemSink& sink) { return extract::GetChildText(from.hwnd, sink); }},
 };
 
 constexpr std::int32_t kCommaSeparated = 1;  // of the setting "listview col"
 
+// Puts in what the first way that gives a text reads, or what the very first way put in.
+Method TryWays(Category category, const Reading& from, platform::TextSink& sink) {
+  std::optional<Method> first;
+  for (const Way& way : kWays) {
+    if (way.category != category) continue;
+    if (way.when == When::kReadingWhole && from.settings.readWhole != 1) continue;
+    if (!first) {
+      first = way.read(from, sink);
+      if (sink.HasText()) break;
+      continue;
+    }
+    if (!from.session.GoesOn(platform::ReadUntil::kCaptureEnds)) break;
+    platform::SecondSink second(sink);
+    const Method method = way.read(from, second);
+    if (second.HasText()) return method;
+  }
+  return first.value_or(Method{});
+}
+
 }  // namespace
 
 extract::TextReading ReadControl(Category category, const ControlRead& read,
                                  const settings::Settings& settings) {
-  for (const CategoryReader& row : kReaders) {
-    if (row.category != category) continue;
-    platform::TextSink sink;
-    const Method method = row.read({read.hwnd, read, settings}, sink);
-    std::wstring text = sink.Take();
-    if (category == Category::ListView && settings.listviewCol == kCommaSeparated) {
-      text = extract::ToCsv(text);
-    }
-    return {std::move(text), std::wstring(method)};
+  platform::TextSink sink;
+  extract::TextReading reading;
+  reading.method = TryWays(category, {read.hwnd, read.session, read, settings}, sink);
+  reading.whole = sink.Whole();
+  reading.restOmitted = sink.Ended() == platform::Ending::kRestOmitted;
+  reading.text = sink.Take();
+  if (category == Category::ListView && settings.listviewCol == kCommaSeparated) {
+    reading.text = extract::ToCsv(reading.text);
   }
-  return {};
+  return reading;
 }
 
 }  // namespace report

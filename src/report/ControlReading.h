@@ -1,9 +1,12 @@
-// The list text of a control: which reader its category has, and what it read.
+// The list text of a control: which ways of reading its category has, and what they read.
 #pragma once
 
 #include <windows.h>
 
+#include <string_view>
+
 #include "extract/TextReading.h"
+#include "platform/ReadPoint.h"
 #include "platform/ReadSession.h"
 #include "report/ControlCategory.h"
 #include "settings/Settings.h"
@@ -12,12 +15,14 @@ namespace report {
 
 // What a reader works on.
 struct ControlRead {
-  HWND hwnd;    // noted when the report began
-  POINT point;  // likewise, in screen pixels
+  HWND hwnd;                      // noted when the report began
+  std::wstring_view className;    // likewise
+  platform::ReadPoint readPoint;  // likewise
   const platform::ReadSession& session;
 };
 
-// Empty for the categories that have no reader.
+// Empty for the categories that have no reader. When the first way gives no text, the next one is
+// tried; when none does, the result is that of the first.
 extract::TextReading ReadControl(Category category, const ControlRead& read,
                                  const settings::Settings& settings);
 

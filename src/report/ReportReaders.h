@@ -33,6 +33,11 @@ struct PageRead {
 
 class ReportReaders : public platform::Interface {
  public:
+  // Whether the system knows that the window's thread does not answer. Sends nothing.
+  virtual bool IsHung(HWND hwnd) = 0;
+  // Whether the window's program runs as administrator and this one does not.
+  virtual bool IsOutOfReach(HWND hwnd) = 0;
+
   virtual WindowFacts Facts(HWND hwnd) = 0;
   // These facts, with the window's owner, ancestors and visible descendants.
   virtual WindowInformation Information(const WindowFacts& window) = 0;
@@ -40,7 +45,8 @@ class ReportReaders : public platform::Interface {
   // The text at the point: of the object there, or the window's own accessible name. showMessage
   // shows other messages to the user.
   virtual extract::TextReading TextFromPoint(
-      POINT point, const std::function<void(const std::wstring&)>& showMessage) = 0;
+      const platform::ReadPoint& point,
+      const std::function<void(const std::wstring&)>& showMessage) = 0;
   virtual std::wstring NameOfWindow(HWND hwnd) = 0;
 
   // The list text of a window of that category.
@@ -53,7 +59,7 @@ class ReportReaders : public platform::Interface {
   virtual bool Answers(HWND hwnd) = 0;
 
   // The accessible object of the window, or, when that is null, at the point.
-  virtual AccessibleTexts Accessible(const WindowFacts* window, POINT point,
+  virtual AccessibleTexts Accessible(const WindowFacts* window, const platform::ReadPoint& point,
                                      const platform::ReadSession& session) = 0;
 
   // The text of the status bar that belongs to the window.

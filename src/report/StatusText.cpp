@@ -45,7 +45,7 @@ std::wstring FindStatusText(const WindowFacts& window) {
   const HWND foreground = GetForegroundWindow();
   if (bar == nullptr) bar = OnlyStatusBar(foreground);
   if (bar == nullptr) bar = StatusBarOfTab(foreground, window.title);
-  return bar == nullptr ? std::wstring() : extract::MyGetControlText(bar);
+  return bar == nullptr || IsHungAppWindow(bar) ? std::wstring() : extract::MyGetControlText(bar);
 }
 
 }  // namespace report

@@ -6,6 +6,7 @@
 #include "browser/PageReading.h"
 #include "extract/PointText.h"
 #include "report/ElementTable.h"
+#include "report/Elevation.h"
 #include "report/StatusText.h"
 
 namespace report {
@@ -15,15 +16,19 @@ class SystemReaders : public ReportReaders {
  public:
   explicit SystemReaders(const settings::Settings& settings) : settings_(settings) {}
 
+  bool IsHung(HWND hwnd) override { return IsHungAppWindow(hwnd) != FALSE; }
+  bool IsOutOfReach(HWND hwnd) override { return RunsAboveThisProgram(hwnd); }
+
   WindowFacts Facts(HWND hwnd) override { return ReadWindowFacts(hwnd); }
   WindowInformation Information(const WindowFacts& window) override {
     return ReadWindowInformation(window);
   }
 
   extract::TextReading TextFromPoint(
-      POINT point, const std::function<void(const std::wstring&)>& showMessage) override {
-    return extract::MyGetControlTextFromPoint(point.x, point.y, settings_.accValueText, false,
-                                              browser_, showMessage);
+      const platform::ReadPoint& point,
+      const std::function<void(const std::wstring&)>& showMessage) override {
+    return extract::ReadTextAtPoint(point, settings_.accValueText, settings_.readWhole == 1,
+                                    browser_, showMessage);
   }
   std::wstring NameOfWindow(HWND hwnd) override { return MyAccessible::AccNameOfWindow(hwnd); }
 
@@ -39,7 +44,7 @@ class SystemReaders : public ReportReaders {
   }
   bool Answers(HWND hwnd) override { return messages_.Answers(hwnd); }
 
-  AccessibleTexts Accessible(const WindowFacts* window, POINT point,
+  AccessibleTexts Accessible(const WindowFacts* window, const platform::ReadPoint& point,
                              const platform::ReadSession& session) override {
     MyAccessible::ReportedWindow reported;
     if (window != nullptr) reported = {window->hwnd, window->className, window->title};

@@ -38,7 +38,7 @@ constexpr std::monostate kAsItWas{};
 
 // Some keys are written with blanks or capitals that differ from the text they are read by.
 // Odd, and stays: docs/ODDITIES.md.
-constexpr std::array<ConfigKey, 39> kKeys{{
+constexpr std::array<ConfigKey, 40> kKeys{{
     {L"form left", L"form left = ", &W::formLeft, HalfWidth},
     {L"form top", L"form top = ", &W::formTop, ThirdOfHeight},
     {L"form right", L"form right = ", &W::formRight, FourFifthsOfWidth},
@@ -79,6 +79,8 @@ constexpr std::array<ConfigKey, 39> kKeys{{
     {L"setting no", L"setting no = ", &S::settingNo, 0},
     {L"setting left", L"setting left = ", &S::settingLeft, CentredLeft},
     {L"setting top", L"setting top = ", &S::settingTop, CentredTop},
+    // Younger than the file: files of users who do not use it stay as they were.
+    {L"read whole", L"read whole = ", &S::readWhole, 0, true},
 }};
 
 }  // namespace

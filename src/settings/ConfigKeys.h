@@ -39,6 +39,7 @@ struct ConfigKey {
   std::wstring_view writtenAs;  // written before the value, with its last blank
   ConfigField field;
   ConfigDefault byDefault;
+  bool unlessZero = false;  // the line is written only while the value is not 0
 };
 
 // All keys in the order of the file.

@@ -82,6 +82,8 @@ void ParseConfig(std::wstring_view text, ConfigValues& values) {
 std::vector<std::wstring> ConfigLines(const ConfigValues& values) {
   std::vector<std::wstring> lines;
   for (const ConfigKey& key : ConfigKeys()) {
+    const std::int32_t* const number = NumberOf(key.field, values);
+    if (key.unlessZero && number != nullptr && *number == 0) continue;
     lines.push_back(std::wstring(key.writtenAs) + TextOf(key.field, values) +
                     std::wstring(platform::kCrLf));
   }

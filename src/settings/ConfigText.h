@@ -17,7 +17,8 @@ void SetDefaults(const ScreenTwips& screen, ConfigValues& values);
 // A later line wins. Lines end with CR LF, LF or CR.
 void ParseConfig(std::wstring_view text, ConfigValues& values);
 
-// The lines of the file, in its order, each with its CR LF.
+// The lines of the file, in its order, each with its CR LF; without keys that are written only
+// while they are not 0.
 std::vector<std::wstring> ConfigLines(const ConfigValues& values);
 
 }  // namespace settings

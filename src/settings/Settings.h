@@ -40,6 +40,7 @@ struct Settings {
   std::int32_t actionTest = 0;         // 0 none, 1 default action, 2 and 3 the two selections
   std::int32_t htmlTagTextLength = 0;  // characters
   std::wstring accValueText;           // comma-separated class names
+  std::int32_t readWhole = 0;
   std::int32_t settingNo = 0;
   std::int32_t settingLeft = 0;  // twips
   std::int32_t settingTop = 0;   // twips

@@ -70,6 +70,7 @@ enum ControlId : int {
   OptListview0 = 2132,
   OptListview1 = 2133,
   OptListview2 = 2134,
+  chkReadWhole = 2141,
 
   // Settings dialog, page 1: HTML documents.
   chkDispText = 2201,

@@ -39,6 +39,8 @@ void MainWindowView::SetText(ViewText part, const std::wstring& text) {
     face_.SetPaneText(ControlOf(part), text);
   } else {
     SetWindowTextW(ControlOf(part), text.c_str());
+    // A message may be wider than its line.
+    if (part == ViewText::lblMsg) face_.Tips().Set(ControlOf(part), text);
   }
   // Swapped, not assigned: an assignment would keep the memory of a huge text.
   std::wstring(text).swap(shown);

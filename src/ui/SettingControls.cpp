@@ -129,6 +129,9 @@ constexpr SettingControl kControls[] = {
            L"CSVファイルとして利用可"),
     Option(OptListview2, frListview, L"１列目のみ", &S::listviewCol, 2,
            L"複数列の場合、2列目以降を無視"),
+    Check(chkReadWhole, FrList0, L"省略せずに読む", {300, 4920, 3735, 270}, &S::readWhole,
+          L"長い文字列や大きなリストビューを、途中で切らずに最後まで読み取ります（時間がかかること"
+          L"があります）"),
 
     Page(FrList1, L"HTMLドキュメント"),
     Check(chkDispText, FrList1, L"テキスト表示", {150, 345, 4035, 270}, &S::dispText,

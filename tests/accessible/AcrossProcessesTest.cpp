@@ -57,7 +57,7 @@ class AcrossProcessesTest : public testing::Test {
   }
 
   std::wstring ReportAt(POINT point) {
-    return GetAccessibleMemberFromPoint(record_, {}, point, settings_, session_.Session());
+    return GetAccessibleMemberFromPoint(record_, {}, {point}, settings_, session_.Session());
   }
   std::wstring ReportOf(const FixtureProcess& fixture) {
     return GetAccessibleMemberFromPoint(record_, {fixture.Window(), L"類", L"題"}, {}, settings_,

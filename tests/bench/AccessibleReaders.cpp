@@ -80,7 +80,7 @@ std::vector<Pair> MeasureAccessibleReport() {
       kRounds,
       [&] {
         MyAccessible::AccessibleFacts record;
-        Expect(MyAccessible::GetAccessibleMemberFromPoint(record, {}, point, settings,
+        Expect(MyAccessible::GetAccessibleMemberFromPoint(record, {}, {point}, settings,
                                                           Session(target)));
       },
       [point] { AskAccessibleReport(point); });

@@ -17,6 +17,7 @@
 #include "Latency.h"
 #include "ListReaders.h"
 #include "PageReaders.h"
+#include "PointerCost.h"
 #include "ProgramCost.h"
 #include "ReportCost.h"
 #include "Statistics.h"
@@ -68,6 +69,10 @@ int main(int count, char** words) {
       {"buttons of a toolbar", 1.1, [] { return bench::MeasureItems("toolbar", 4000); }},
       {"tabs of a tab control", 1.1, [] { return bench::MeasureItems("tabs", 4000); }},
       {"100000 rows of a list view", 1.1, [] { return bench::MeasureItems("ownerdata", 100'000); }},
+      {"100000 rows by messages of their own", 0.6,
+       [] { return bench::MeasureItems("ownerrows", 100'000); }},
+      {"tree by messages", 1.1, [] { return bench::MeasureItems("tree", 4000); }},
+      {"window under a moving pointer", 1.15, bench::MeasureWindowMeant},
       {"list view, growth to 100000 rows", 1.05, [] { return bench::MeasureRowGrowth(100'000); }},
   };
   bool held = true;

@@ -18,8 +18,10 @@
 #include "driver/Owners.h"
 #include "extract/ListBoxItems.h"
 #include "extract/ListViewItems.h"
+#include "extract/ListViewRows.h"
 #include "extract/TabControlItems.h"
 #include "extract/ToolbarItems.h"
+#include "extract/TreeViewItems.h"
 
 namespace bench {
 namespace {
@@ -118,6 +120,41 @@ BareStep BareTabs(HWND control) {
   };
 }
 
+// The item, its neighbours and its text; the walk needs both neighbours of every item.
+BareStep BareTree(HWND control) {
+  const auto block = std::make_shared<BareBlock>(control, 40 + 2 * 260);
+  return [control, block, item = 0, around = std::vector<int>()](int index) mutable {
+    if (index == 0) item = Ask(control, TVM_GETNEXTITEM, TVGN_ROOT);
+    std::uint32_t fields[10 + 130] = {
+        TVIF_TEXT | TVIF_HANDLE, static_cast<std::uint32_t>(item), 0, 0, block->Number() + 40, 260};
+    block->Write(fields, sizeof fields);
+    Ask(control, TVM_GETITEMW, 0, block->Address());
+    block->Read(fields, sizeof fields);
+    const auto next = [control](int which, int from) {
+      return Ask(control, TVM_GETNEXTITEM, which, reinterpret_cast<const void*>(from));
+    };
+    if (const int child = next(TVGN_CHILD, item); child != 0) {
+      around.push_back(item);
+      item = child;
+      return;
+    }
+    while ((item = next(TVGN_NEXT, item)) == 0 && !around.empty()) {
+      item = around.back();
+      around.pop_back();
+    }
+  };
+}
+
+extract::Method ReadRows(HWND hwnd, const platform::ReadSession& session, platform::ItemSink& sink,
+                         const extract::ControlAccess& access) {
+  return extract::GetListViewRows(hwnd, session, sink, 0, access);
+}
+
+extract::Method ReadTree(HWND hwnd, const platform::ReadSession& session, platform::ItemSink& sink,
+                         const extract::ControlAccess& access) {
+  return extract::GetTreeViewItem(hwnd, session, sink, {true, 50}, access);
+}
+
 extract::Method ReadListView(HWND hwnd, const platform::ReadSession& session,
                              platform::ItemSink& sink, const extract::ControlAccess& access) {
   return extract::GetListViewItem(
@@ -137,6 +174,8 @@ const Contest& ContestOf(const std::string& kind) {
       {"ownerdata", ReadListView, BareListView},
       {"toolbar", extract::GetToolbarItem, BareToolbar},
       {"tabs", extract::GetTabControlItem, BareTabs},
+      {"ownerrows", ReadRows, BareListView},
+      {"tree", ReadTree, BareTree},
   };
   for (const Contest& contest : contests) {
     if (contest.name == kind) return contest;

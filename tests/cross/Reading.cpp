@@ -7,10 +7,13 @@
 #include "../ReadItems.h"
 #include "accessibility/AccessibleListing.h"
 #include "driver/Text.h"
+#include "extract/CaptionItems.h"
 #include "extract/ListBoxItems.h"
 #include "extract/ListViewItems.h"
+#include "extract/ListViewRows.h"
 #include "extract/TabControlItems.h"
 #include "extract/ToolbarItems.h"
+#include "extract/TreeViewItems.h"
 #include "platform/TextCodec.h"
 
 namespace cross {
@@ -33,6 +36,16 @@ extract::Method ReadListView(HWND hwnd, const platform::ReadSession& session,
         MyAccessible::ListChildren(hwnd, settings, session, children);
       },
       access);
+}
+
+extract::Method ReadRows(HWND hwnd, const platform::ReadSession& session, platform::ItemSink& sink,
+                         const extract::ControlAccess& access) {
+  return extract::GetListViewRows(hwnd, session, sink, 0, access);
+}
+
+extract::Method ReadTree(HWND hwnd, const platform::ReadSession& session, platform::ItemSink& sink,
+                         const extract::ControlAccess& access) {
+  return extract::GetTreeViewItem(hwnd, session, sink, {true, 1'000'000}, access);
 }
 
 std::wstring Lines(const Contents& contents, std::size_t bytes) {
@@ -73,6 +86,25 @@ std::wstring TableLines(const Contents& contents) {
   return any ? text : std::wstring();
 }
 
+std::wstring WholeTable(const Contents& contents) {
+  std::wstring text;
+  for (int row = 0; row < contents.Count(); ++row) {
+    for (int column = 0; column < kColumns; ++column) {
+      text += (column > 0 ? L"\t" : L"") + contents.Cell(row, column);
+    }
+    text += L"\r\n";
+  }
+  return text;
+}
+
+std::wstring TreeLines(const Contents& contents) {
+  std::wstring text;
+  for (int i = 0; i < contents.Count(); ++i) {
+    text += std::wstring(static_cast<std::size_t>(i % 3), L'\t') + contents.Item(i) + L"\r\n";
+  }
+  return text;
+}
+
 struct Kind {
   std::string_view name;
   ItemReader read;
@@ -89,6 +121,12 @@ constexpr Kind kKinds[] = {
     {"ownerdata", ReadListView, TableLines, L"LVM_GETITEMW"},
     {"toolbar", extract::GetToolbarItem, ToolbarLines, L"TB_GETBUTTON"},
     {"tabs", extract::GetTabControlItem, TabLines, L"TCM_GETITEM"},
+    {"rows", ReadRows, WholeTable, L"LVM_GETITEMW"},
+    {"ownerrows", ReadRows, WholeTable, L"LVM_GETITEMW"},
+    {"tree", ReadTree, TreeLines, L"TVM_GETITEMW"},
+    {"header", extract::GetHeaderItem, WholeLines, L"HDM_GETITEMW"},
+    {"status", extract::GetStatusBarItem, WholeLines, L"SB_GETTEXTW"},
+    {"comboex", extract::GetComboBoxExItem, WholeLines, L"CBEM_GETITEMW"},
 };
 
 const Kind& KindOf(std::string_view name) {

@@ -99,21 +99,24 @@ TEST_F(CaptureTest, WindowWithoutATextGivesAnEmptyPane) {
   EXPECT_TRUE(program.TopPane().TextBecomes(""));
 }
 
-TEST_F(CaptureTest, DisabledControlGivesTheWindowBehindIt) {
+// The system gives the window behind it.
+TEST_F(CaptureTest, ADisabledControlIsRead) {
   const Fixture fixture("title=背景の窓 disabled=押せない");
   const Program program;
   program.StartCapture();
   pointer::MoveTo(fixture["disabled"].Center());
-  EXPECT_TRUE(Reports(program, fixture["main"]));
+  EXPECT_TRUE(Reports(program, fixture["disabled"]));
+  EXPECT_TRUE(program.TopPane().TextBecomes("押せない"));
 }
 
 TEST_F(CaptureTest, MessageLineSaysGoUntilTheFirstReport) {
+  const Fixture fixture(kFixtureWords);
   const Program program;
   pointer::MoveTo(program.BottomPane().Center());
   program.StartCapture();
   EXPECT_TRUE(program[ui::lblMsg].TextBecomes("Go"));
   EXPECT_TRUE(program[ui::lblMsg].TextStays("Go", Milliseconds(400)));
-  pointer::Park();
+  pointer::MoveTo(fixture["edit"].Center());
   EXPECT_TRUE(program[ui::lblMsg].TextBecomes(""));
 }
 

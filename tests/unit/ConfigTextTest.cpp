@@ -139,6 +139,19 @@ TEST(ConfigLinesTest, WritesNumbersPlain) {
   EXPECT_NE(text.find(L"\r\naccname max = 1234567\r\n"), text.npos);
 }
 
+// Younger than the file: the file of a user who does not use it stays as it was.
+TEST(ConfigLinesTest, ReadWholeIsTheLastLineAndOnlyWhenItIsNot0) {
+  ConfigValues values = Defaults();
+  EXPECT_EQ(ConfigLines(values).size(), 39U);
+  for (const std::int32_t value : {1, 2, -1}) {
+    values.record.readWhole = value;
+    EXPECT_EQ(ConfigLines(values).back(), L"read whole = " + std::to_wstring(value) + L"\r\n");
+    EXPECT_EQ(ConfigLines(values).size(), 40U);
+    EXPECT_EQ(Parsed(Written(values)), values);
+  }
+  EXPECT_EQ(Parsed(L"read whole = 1\r\nread whole = 0\r\n").record.readWhole, 0);
+}
+
 // Every key gets a different value, so that two keys that share a field are noticed.
 ConfigValues DistinctValues() {
   ConfigValues values;
@@ -177,9 +190,9 @@ TEST(ConfigKeysTest, AreAllDifferent) {
     readAs.insert(key.readAs);
     writtenAs.insert(key.writtenAs);
   }
-  EXPECT_EQ(ConfigKeys().size(), 39U);
-  EXPECT_EQ(readAs.size(), 39U);
-  EXPECT_EQ(writtenAs.size(), 39U);
+  EXPECT_EQ(ConfigKeys().size(), 40U);
+  EXPECT_EQ(readAs.size(), 40U);
+  EXPECT_EQ(writtenAs.size(), 40U);
 }
 
 TEST(ParseConfigTest, UnderstandsAnyCaseAndBlanks) {

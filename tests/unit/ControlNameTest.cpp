@@ -72,20 +72,49 @@ TEST_F(ControlNameTest, AnEditIsReadByItsText) {
 // The method is reported also for the mark of a failed listing, and for the window's own text.
 TEST_F(ControlNameTest, TheMarkOfAFailedListingIsLabelledLikeAListing) {
   std::wstring method;
-  const auto failed = [](platform::ItemSink& sink) { sink.Text(L"% 取得エラー！ %"); };
-  EXPECT_EQ(TextOf([&](platform::ItemSink& sink) { return GetOther(window_.Get(), failed, sink); },
-                   method),
-            L"% 取得エラー！ %");
+  const auto failed = [](platform::ItemSink& sink) { sink.EndWith(platform::Ending::kNoObject); };
+  EXPECT_EQ(
+      TextOf([&](platform::ItemSink& sink) { return GetOther(window_.Get(), failed, {}, sink); },
+             method),
+      L"% 取得エラー！ %");
   EXPECT_EQ(method, L"Accessible");
 }
 
 TEST_F(ControlNameTest, TextsOfChildWindowsAreLabelledLikeAListing) {
   std::wstring method;
   const auto nothing = [](platform::ItemSink&) {};
-  EXPECT_EQ(TextOf([&](platform::ItemSink& sink) { return GetOther(window_.Get(), nothing, sink); },
-                   method),
-            L"呼び名");
+  EXPECT_EQ(
+      TextOf([&](platform::ItemSink& sink) { return GetOther(window_.Get(), nothing, {}, sink); },
+             method),
+      L"呼び名");
   EXPECT_EQ(method, L"Accessible");
+}
+
+TEST_F(ControlNameTest, AFurtherWayComesBeforeTheTextsOfChildWindowsAndAfterTheListing) {
+  const auto nothing = [](platform::ItemSink&) {};
+  const auto failed = [](platform::ItemSink& sink) { sink.EndWith(platform::Ending::kNoObject); };
+  const auto listed = [](platform::ItemSink& sink) { PutItem(sink, L"項"); };
+  const auto parts = [](platform::ItemSink& sink) -> Method {
+    PutItem(sink, L"");
+    PutItem(sink, L"部分");
+    return L"SB_GETTEXTW";
+  };
+  const auto read = [&](const ChildrenListing& listing, const FurtherWay& further) {
+    std::wstring method;
+    const std::wstring text = TextOf(
+        [&](platform::ItemSink& sink) { return GetOther(window_.Get(), listing, further, sink); },
+        method);
+    return method + L"|" + text;
+  };
+  EXPECT_EQ(read(nothing, parts), L"SB_GETTEXTW|\r\n部分\r\n");
+  EXPECT_EQ(read(failed, parts), L"SB_GETTEXTW|\r\n部分\r\n");
+  EXPECT_EQ(read(listed, parts), L"Accessible|項\r\n");
+  const auto noParts = [](platform::ItemSink& sink) {
+    PutItem(sink, L"");
+    return Method{};
+  };
+  EXPECT_EQ(read(nothing, noParts), L"Accessible|呼び名");
+  EXPECT_EQ(read(failed, noParts), L"Accessible|% 取得エラー！ %");
 }
 
 }  // namespace

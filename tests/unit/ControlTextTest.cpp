@@ -89,7 +89,8 @@ std::wstring ChildText(HWND hwnd, std::wstring& method) {
 // listed is what the listing of accessible children gives.
 std::wstring OtherText(HWND hwnd, std::wstring_view listed, std::wstring& method) {
   const auto listing = [listed](platform::ItemSink& children) { children.Text(listed); };
-  return TextOf([&](platform::ItemSink& sink) { return GetOther(hwnd, listing, sink); }, method);
+  return TextOf([&](platform::ItemSink& sink) { return GetOther(hwnd, listing, {}, sink); },
+                method);
 }
 
 TEST_F(ControlTextTest, TextsHaveABufferOf4096Characters) {

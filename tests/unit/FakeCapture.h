@@ -123,6 +123,14 @@ class FakeSystem : public capture::CaptureSystem, public Failing {
     askedAt = point;
     return windowAtPoint;
   }
+  HWND WindowMeant(HWND given, POINT point) override {
+    Fail();
+    ++meantAsked;
+    EXPECT_EQ(given, windowAtPoint);
+    EXPECT_EQ(point.x, askedAt.x);
+    EXPECT_EQ(point.y, askedAt.y);
+    return windowMeant == nullptr ? given : windowMeant;
+  }
   HWND Parent(HWND hwnd) override {
     Fail();
     return parents.contains(hwnd) ? parents[hwnd] : nullptr;
@@ -169,11 +177,12 @@ class FakeSystem : public capture::CaptureSystem, public Failing {
     ++tooltipsAsked;
     return tooltip;
   }
-  void AccAction(std::int32_t mode, POINT point) override {
+  void AccAction(std::int32_t mode, const platform::ReadPoint& point) override {
     Fail();
     actions.push_back(mode);
     actionTicks.push_back(now);
-    actionPoint = point;
+    actionPoint = point.at;
+    actionWindow = point.window;
     if (onAction) onAction();
   }
 
@@ -185,6 +194,8 @@ class FakeSystem : public capture::CaptureSystem, public Failing {
   POINT cursor{};
   POINT askedAt{};
   HWND windowAtPoint = nullptr;
+  HWND windowMeant = nullptr;  // null: the one at the point
+  int meantAsked = 0;
   std::map<HWND, HWND> parents;
   HWND clientOf = nullptr;
   POINT clientOrigin{};
@@ -200,6 +211,7 @@ class FakeSystem : public capture::CaptureSystem, public Failing {
   std::vector<std::int32_t> actions;
   std::vector<std::uint32_t> actionTicks;
   POINT actionPoint{};
+  HWND actionWindow = nullptr;
   std::function<void()> onAction;
 
  private:

@@ -18,6 +18,14 @@ class FakeReaders : public report::ReportReaders {
  public:
   explicit FakeReaders(std::vector<std::string>& trace) : trace_(trace) {}
 
+  bool IsHung(HWND hwnd) override {
+    EXPECT_EQ(hwnd, listOf);
+    return hung;
+  }
+  bool IsOutOfReach(HWND hwnd) override {
+    EXPECT_EQ(hwnd, listOf);
+    return outOfReach;
+  }
   report::WindowFacts Facts(HWND hwnd) override {
     Note("facts");
     return {hwnd, className, title, {1, 2, 3, 4}};
@@ -27,11 +35,13 @@ class FakeReaders : public report::ReportReaders {
     return {window, {}, {}, {}};
   }
   extract::TextReading TextFromPoint(
-      POINT point, const std::function<void(const std::wstring&)>& showMessage) override {
+      const platform::ReadPoint& point,
+      const std::function<void(const std::wstring&)>& showMessage) override {
     Note("point");
-    askedPoint = point;
+    askedPoint = point.at;
+    meantWindows.push_back(point.window);
     if (!message.empty()) showMessage(message);
-    return {pointText, L"Accessible"};
+    return {pointText, L"Accessible", pointWhole};
   }
   std::wstring NameOfWindow(HWND) override {
     Note("name of window");
@@ -40,11 +50,13 @@ class FakeReaders : public report::ReportReaders {
   extract::TextReading Control(report::Category category,
                                const report::ControlRead& read) override {
     EXPECT_EQ(read.hwnd, listOf);
-    listAt = read.point;
+    EXPECT_EQ(read.className, className);
+    listAt = read.readPoint.at;
+    meantWindows.push_back(read.readPoint.window);
     listCategory = category;
     if (onRead) onRead(read);
     Note("control");
-    return {L"一覧", listMethod};
+    return {listText, listMethod, 0, restOmitted};
   }
   std::optional<MyInternetexplore::PageFacts> Page(const report::PageRead& read) override {
     Note("page");
@@ -61,10 +73,12 @@ class FakeReaders : public report::ReportReaders {
     EXPECT_EQ(hwnd, WindowNumber(77));
     return answers;
   }
-  report::AccessibleTexts Accessible(const report::WindowFacts* window, POINT point,
+  report::AccessibleTexts Accessible(const report::WindowFacts* window,
+                                     const platform::ReadPoint& point,
                                      const platform::ReadSession& session) override {
     Note("accessible");
-    accessibleAt = point;
+    accessibleAt = point.at;
+    meantWindows.push_back(point.window);
     session.showProgress(L"9");
     if (onAccessible) onAccessible(session);
     accessibleOf = window == nullptr ? nullptr : window->hwnd;
@@ -84,7 +98,13 @@ class FakeReaders : public report::ReportReaders {
   std::wstring message;      // said while the text at the point is read
   std::wstring pageMessage;  // said while the page is opened
   std::wstring pageMarkup = L"<b>";
+  std::size_t pointWhole = 0;
+  std::wstring listText = L"一覧";
   std::wstring listMethod;  // the method of the list
+  bool restOmitted = false;
+  bool hung = false;
+  bool outOfReach = false;
+  std::vector<HWND> meantWindows;  // of the points that were read
   bool hasPage = false;
   bool answers = true;
   HWND documentWindow = nullptr;

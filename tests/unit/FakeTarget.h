@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -54,8 +55,8 @@ class FakeMemory : public MyMapView::MemoryCalls {
                        DWORD protection) override {
     calls.push_back(CallText("VirtualAllocEx", process, address, size, type, protection));
     if (static_cast<int>(blocks.size()) >= mostBlocks) return nullptr;
-    blocks.push_back(std::make_unique<char[]>(4096));
-    return blocks.back().get();
+    blocks.push_back(std::make_unique<char[]>(std::max<SIZE_T>(size, 4096)));
+    return placeOfBlock == nullptr ? blocks.back().get() : placeOfBlock;
   }
   BOOL VirtualFreeEx(HANDLE process, void* address, SIZE_T size, DWORD type) override {
     calls.push_back(CallText("VirtualFreeEx", process, BlockNumber(address), size, type));
@@ -71,6 +72,14 @@ class FakeMemory : public MyMapView::MemoryCalls {
     calls.push_back(CallText("Read", BlockNumber(address), size));
     if (lost) return FALSE;
     std::memcpy(data, address, size);
+    return TRUE;
+  }
+
+  BOOL NtWow64ReadVirtualMemory64(HANDLE, std::uint64_t address, void* data, SIZE_T size) override {
+    if (address < farAddress || address - farAddress + size > farText.size() * sizeof(wchar_t)) {
+      return FALSE;
+    }
+    std::memcpy(data, reinterpret_cast<const char*>(farText.data()) + (address - farAddress), size);
     return TRUE;
   }
 
@@ -141,6 +150,9 @@ class FakeMemory : public MyMapView::MemoryCalls {
   bool opens = true;
   bool mayQuery = true;
   int mostBlocks = 100;
+  void* placeOfBlock = nullptr;  // what the target says instead of where a block is
+  std::uint64_t farAddress = 0;  // where a 64-bit target has this text
+  std::wstring farText;
   bool lost = false;
   bool mappingExists = false;
   bool creates = true;

@@ -26,9 +26,10 @@ class FakeSources : public PointSources {
     asked.push_back("name");
     return name;
   }
-  std::wstring WindowText() override {
+  TextReading WindowText() override {
     asked.push_back("text");
-    return text;
+    if (text.empty()) return {};
+    return {text, L"WM_GETTEXT", whole};
   }
 
   std::wstring className = L"Button";
@@ -37,6 +38,7 @@ class FakeSources : public PointSources {
   std::wstring value;
   std::wstring name;
   std::wstring text;
+  std::size_t whole = 0;
   std::vector<std::string> asked;
 };
 

@@ -89,5 +89,50 @@ TEST_F(PointerSamplingTest, WithoutACaptureThereIsNoTarget) {
   EXPECT_TRUE(fake_.view.texts.empty());
 }
 
+TEST_F(PointerSamplingTest, TheWindowThatIsMeantIsTheTarget) {
+  fake_.system.windowMeant = WindowNumber(78);
+  Sample();
+  EXPECT_EQ(fake_.state.TargetWindow, WindowNumber(78));
+  EXPECT_EQ(fake_.state.GivenWindow, WindowNumber(77));
+  const platform::ReadPoint point = PointToRead(fake_.state);
+  EXPECT_EQ(point.at.x, 300);
+  EXPECT_EQ(point.at.y, 40);
+  EXPECT_EQ(point.window, WindowNumber(78));
+}
+
+TEST_F(PointerSamplingTest, ReadersNeedNoWindowWhereTheSystemGivesIt) {
+  EXPECT_EQ(PointToRead(fake_.state).window, nullptr);
+  Sample();
+  EXPECT_EQ(PointToRead(fake_.state).window, nullptr);
+  fake_.state.GivenWindow = nullptr;
+  EXPECT_EQ(PointToRead(fake_.state).window, nullptr);
+}
+
+// Hundreds of windows may lie at the point, and this runs a hundred times a second.
+TEST_F(PointerSamplingTest, NothingIsAskedWhilePointAndWindowStay) {
+  fake_.system.windowMeant = WindowNumber(78);
+  for (int i = 0; i < 5; ++i) Sample();
+  EXPECT_EQ(fake_.system.meantAsked, 1);
+  EXPECT_EQ(fake_.state.TargetWindow, WindowNumber(78));
+  fake_.system.cursor.y = 41;
+  Sample();
+  EXPECT_EQ(fake_.system.meantAsked, 2);
+  fake_.system.windowAtPoint = WindowNumber(79);
+  fake_.system.windowMeant = nullptr;
+  Sample();
+  EXPECT_EQ(fake_.system.meantAsked, 3);
+  EXPECT_EQ(fake_.state.TargetWindow, WindowNumber(79));
+}
+
+TEST_F(PointerSamplingTest, TheNextCaptureAsksAnew) {
+  Sample();
+  fake_.state.CaptureRunning = false;
+  Sample();
+  EXPECT_EQ(fake_.state.GivenWindow, nullptr);
+  fake_.state.CaptureRunning = true;
+  Sample();
+  EXPECT_EQ(fake_.system.meantAsked, 2);
+}
+
 }  // namespace
 }  // namespace capture

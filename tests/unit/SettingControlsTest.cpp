@@ -47,7 +47,7 @@ TEST(SettingControlsTest, EverySettingHasOneControlOrOneGroupOfOptions) {
     EXPECT_EQ(std::ranges::count(settings, control.setting), 0) << control.row.id;
     settings.push_back(control.setting);
   }
-  EXPECT_EQ(settings.size(), 20U);
+  EXPECT_EQ(settings.size(), 21U);
   EXPECT_THAT(options[frClipboard], ElementsAre(0, 1, 2, 3));
   EXPECT_THAT(options[frHint], ElementsAre(0, 1));
   EXPECT_THAT(options[frListview], ElementsAre(0, 1, 2));
