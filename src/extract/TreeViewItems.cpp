@@ -79,10 +79,11 @@ Method PutTree(Tree<Record> tree, const platform::ReadSession& session, platform
       sink.EndWith(platform::Ending::kInterrupted);
       break;
     }
+    const std::wstring name = MyAccessible::ShortName(tree.Name(), look.accnameMax);
     if (look.indented) {
       for (std::size_t i = 0; i < tree.Level(); ++i) sink.Cell({});
     }
-    PutItem(sink, MyAccessible::ShortName(tree.Name(), look.accnameMax));
+    PutItem(sink, name);
     session.Step(std::to_wstring(++listed));
   }
   return L"TVM_GETITEMW";

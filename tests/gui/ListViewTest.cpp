@@ -86,10 +86,18 @@ TEST_F(ListView64BitSystemTest, NamesOfItemsAreQuotedBetweenCommas) {
       program.BottomPane().TextBecomes("林檎,蜜柑\r\n\"赤,橙\"\r\n\"\"\"果物\"\"\"\r\n\r\n"));
 }
 
-// Those of Wine have an object without children.
-TEST_F(ListView64BitSystemTest, NoRowsAreReadWhateverTheBitsOfItsProgram) {
+// Those of Wine have an object without children, so their rows are read by messages.
+TEST_F(ListView64BitSystemTest, RowsAreReadWhateverTheBitsOfItsProgram) {
+  const std::string texts[] = {"吾輩は猫である", "名前はまだ無い。", "ｶﾀｶﾅ 表示ソ能ポ", "①㈱髙"};
+  std::string rows;
+  for (int row = 0; row < 4; ++row) {
+    for (int column = 0; column < cross::kColumns; ++column) {
+      rows += (column > 0 ? "\t" : "") + texts[(row + column) % 4];
+    }
+    rows += "\r\n";
+  }
   for (const cross::Bits bits : {cross::Bits::k32, cross::Bits::k64}) {
-    ExpectList(bits, "japanese", "listview col = 0\n", "");
+    ExpectList(bits, "japanese", "listview col = 0\n", rows);
   }
 }
 

@@ -11,17 +11,22 @@
 #include "../ReadItems.h"
 #include "../unit/FakeTarget.h"
 #include "Cases.h"
+#include "extract/CaptionItems.h"
 #include "extract/ListBoxItems.h"
 #include "extract/ListViewItems.h"
+#include "extract/ListViewRows.h"
 #include "extract/TabControlItems.h"
 #include "extract/ToolbarItems.h"
+#include "extract/TreeViewItems.h"
 #include "platform/ReadSession.h"
 
 namespace hostile {
 namespace {
 
 constexpr int kCases = 2000;
-constexpr std::size_t kBlock = 4096;  // what FakeMemory gives for each block
+constexpr std::size_t kBlock = 4096;  // what FakeMemory gives for each block at least
+
+using extract::Method;
 
 // How many bytes can be written from there on, as the system says.
 std::size_t Writable(const void* address) {
@@ -101,6 +106,16 @@ class HostileControl {
   int leavesAfter_ = 0;
 };
 
+Method ReadRows(HWND hwnd, const platform::ReadSession& session, platform::ItemSink& sink,
+                const extract::ControlAccess& access) {
+  return extract::GetListViewRows(hwnd, session, sink, 0, access);
+}
+
+Method ReadTree(HWND hwnd, const platform::ReadSession& session, platform::ItemSink& sink,
+                const extract::ControlAccess& access) {
+  return extract::GetTreeViewItem(hwnd, session, sink, {true, 50}, access);
+}
+
 // One of the readers that give a line for each item.
 struct NamedReader {
   const char* name;
@@ -122,7 +137,12 @@ INSTANTIATE_TEST_SUITE_P(Readers, HostileItemsTest,
                          testing::Values(NamedReader{"ListBoxes", extract::MyGetListBoxItem},
                                          NamedReader{"ComboBoxes", extract::MyGetComboBoxItem},
                                          NamedReader{"Toolbars", extract::GetToolbarItem},
-                                         NamedReader{"TabControls", extract::GetTabControlItem}),
+                                         NamedReader{"TabControls", extract::GetTabControlItem},
+                                         NamedReader{"ListViewRows", ReadRows},
+                                         NamedReader{"Trees", ReadTree},
+                                         NamedReader{"Headers", extract::GetHeaderItem},
+                                         NamedReader{"StatusBars", extract::GetStatusBarItem},
+                                         NamedReader{"ComboBoxesEx", extract::GetComboBoxExItem}),
                          [](const auto& row) { return std::string(row.param.name); });
 
 TEST(HostileListsTest, ListViews) {
