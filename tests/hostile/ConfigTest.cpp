@@ -237,7 +237,8 @@ TEST(HostileConfigTest, FilesMeanWhatTheirLinesSayAndAreWrittenSo) {
     std::wstring again;
     EXPECT_EQ(Read(written, again), values);
     EXPECT_EQ(Written(Read(written, again)), written);
-    EXPECT_EQ(std::count(written.begin(), written.end(), '\n'), 39);
+    EXPECT_EQ(std::count(written.begin(), written.end(), '\n'),
+              values.record.readWhole == 0 ? 39 : 40);
   });
 }
 
