@@ -11,12 +11,11 @@ namespace {
 
 constexpr int kDeepest = 64;  // windows can be nested deeper only in hostile programs
 
-bool IsChildWindow(HWND hwnd) { return (GetWindowLongPtrW(hwnd, GWL_STYLE) & WS_CHILD) != 0; }
-
 // A button of that style, in whatever class: other toolkits register the system's button under
 // names of their own.
 bool IsGroupBox(HWND hwnd) {
-  if ((GetWindowLongPtrW(hwnd, GWL_STYLE) & BS_TYPEMASK) != BS_GROUPBOX) return false;
+  const LONG_PTR style = GetWindowLongPtrW(hwnd, GWL_STYLE);
+  if ((style & (WS_CHILD | BS_TYPEMASK)) != (WS_CHILD | BS_GROUPBOX)) return false;
   std::array<wchar_t, 128> name{};
   if (RealGetWindowClassW(hwnd, name.data(), static_cast<UINT>(name.size())) == 0) return false;
   return ContainsIgnoringCase(name.data(), L"button");
@@ -89,7 +88,7 @@ HWND WindowMeant(HWND given, POINT point) {
   if (given == nullptr || given == GetDesktopWindow()) return given;
   HWND meant = nullptr;
   if (HasVisibleChildAt(given, point)) meant = DisabledChild(ChildrenAt(given, point));
-  if (meant == nullptr && IsChildWindow(given) && IsGroupBox(given)) {
+  if (meant == nullptr && IsGroupBox(given)) {
     RECT frame{};
     GetWindowRect(given, &frame);
     meant = FramedWindow(frame, ChildrenAt(GetAncestor(given, GA_PARENT), point));
