@@ -14,6 +14,7 @@
 
 #include "../ReadItems.h"
 #include "FixtureProcess.h"
+#include "ReportText.h"
 #include "accessibility/AccessibleAction.h"
 #include "accessibility/AccessibleListing.h"
 #include "accessibility/AccessibleReport.h"
@@ -87,20 +88,7 @@ TEST_F(AcrossProcessesTest, TheObjectAtThePointIsReported) {
   const FixtureProcess fixture("place=200,100,400,300 fruit");
   // Below the items of the list, which is at 220,120.
   EXPECT_EQ(ReportAt({300, 215}),
-            HEADING
-            L"Name       : 果物の一覧\r\n"
-            L"Value      : 二つ\r\n"
-            L"Role       : 33 リスト\r\n"
-            L"State      : x100000 フォーカス可。\r\n"
-            L"KbShortCut : Alt+F\r\n"
-            L"Location   : (l:220,t:120,r:420,b:240)\r\n"
-            L"ChildCount : 3\r\n"
-            L"DefAction  : 開く\r\n"
-            L"Description: 好きな果物\r\n"
-            L"\r\n"
-            L"Id         : 0\r\n"
-            L"Object Type: Container\r\n"
-            L"\r\n"
+            HEADING + accessible::MemberLines({.name = L"果物の一覧", .value = L"二つ", .role = L"33 リスト", .state = L"x100000 フォーカス可。", .shortcut = L"Alt+F", .location = L"l:220,t:120,r:420,b:240", .childCount = L"3", .defaultAction = L"開く", .description = L"好きな果物"}) + 
             L"Ancestors  : top → bottom\r\n" COLUMNS
             L" \"果物の窓\"\t10:クライアント\t(200,100,600,400)\tChildCount=1\t\"果物の窓\"\r\n"
             L" \"組\"\t20:グループ化\t(210,110,510,290)\tChildCount=1\t\"組\"\r\n"
@@ -151,20 +139,7 @@ TEST_F(AcrossProcessesTest, TheObjectOfAWindowIsReported) {
                 std::to_wstring(handle) +
                 L")から取得\r\n"
                 L"　　類 \"題\"\r\n"
-                L"---------------------------------------\r\n"
-                L"Name       : 果物の窓\r\n"
-                L"Value      : \r\n"
-                L"Role       : 10 クライアント\r\n"
-                L"State      : x0 \r\n"
-                L"KbShortCut : \r\n"
-                L"Location   : (l:200,t:100,r:600,b:400)\r\n"
-                L"ChildCount : 1\r\n"
-                L"DefAction  : \r\n"
-                L"Description: \r\n"
-                L"\r\n"
-                L"Id         : 0\r\n"
-                L"Object Type: Container\r\n"
-                L"\r\n"
+                L"---------------------------------------\r\n" + accessible::MemberLines({.name = L"果物の窓", .role = L"10 クライアント", .location = L"l:200,t:100,r:600,b:400", .childCount = L"1"}) + 
                 L"Ancestors  : \r\n"
                 L"\r\n"
                 L"GetParentObject failed\r\n"

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "../accessible/ReportText.h"
 #include "AccessibleReportFixture.h"
 
 namespace MyAccessible {
@@ -18,20 +19,15 @@ constexpr const wchar_t* kListsAncestors =
     L" \"窓の題\"\t9:ウィンドウ\t(0,0,640,480)\tChildCount=1\t\"窓の題\"\r\n"
     L" \"組\"\t20:グループ化\t(5,15,205,115)\tChildCount=1\t\"組\"\r\n";
 
-constexpr const wchar_t* kListsMembers =
-    L"Name       : 果物の一覧\r\n"
-    L"Value      : 二つ\r\n"
-    L"Role       : 33 リスト\r\n"
-    L"State      : x100000 フォーカス可。\r\n"
-    L"KbShortCut : Alt+F\r\n"
-    L"Location   : (l:10,t:20,r:110,b:100)\r\n"
-    L"ChildCount : 3\r\n"
-    L"DefAction  : 開く\r\n"
-    L"Description: 好きな果物\r\n"
-    L"\r\n"
-    L"Id         : 0\r\n"
-    L"Object Type: Container\r\n"
-    L"\r\n";
+const std::wstring kListsMembers = accessible::MemberLines({.name = L"果物の一覧",
+                                                            .value = L"二つ",
+                                                            .role = L"33 リスト",
+                                                            .state = L"x100000 フォーカス可。",
+                                                            .shortcut = L"Alt+F",
+                                                            .location = L"l:10,t:20,r:110,b:100",
+                                                            .childCount = L"3",
+                                                            .defaultAction = L"開く",
+                                                            .description = L"好きな果物"});
 
 TEST_F(AccessibleReportTest, AnObjectWithAncestorsAndChildren) {
   EXPECT_EQ(Report(list_, 0),
@@ -50,20 +46,7 @@ TEST_F(AccessibleReportTest, ASimpleElement) {
   // The last column reads the found child from every ancestor: the list has it, the others do not.
   EXPECT_EQ(
       Report(list_, 3),
-      L"MSAA(MS Active Accessibility)情報\r\n" LINE39
-      L"Name       : 蜜柑\r\n"
-      L"Value      : 橙\r\n"
-      L"Role       : 34 リスト項目\r\n"
-      L"State      : x200000 選択可。\r\n"
-      L"KbShortCut : Alt+F\r\n"
-      L"Location   : (l:10,t:52,r:110,b:68)\r\n"
-      L"ChildCount : 0\r\n"
-      L"DefAction  : 選ぶ\r\n"
-      L"Description: 果物\r\n"
-      L"\r\n"
-      L"Id         : 3\r\n"
-      L"Object Type: Simple Element\r\n"
-      L"\r\n"
+      L"MSAA(MS Active Accessibility)情報\r\n" LINE39 + accessible::MemberLines({.name = L"蜜柑", .value = L"橙", .role = L"34 リスト項目", .state = L"x200000 選択可。", .shortcut = L"Alt+F", .location = L"l:10,t:52,r:110,b:68", .childCount = L"0", .defaultAction = L"選ぶ", .description = L"果物", .id = L"3", .type = L"Simple Element"}) + 
       L"Ancestors  : top → bottom\r\n" COLUMNS
       L" \"窓の題\"\t9:ウィンドウ\t(0,0,640,480)\tChildCount=1\t\"\"\r\n"
       L" \"組\"\t20:グループ化\t(5,15,205,115)\tChildCount=1\t\"\"\r\n"
@@ -94,20 +77,7 @@ TEST_F(AccessibleReportTest, TheLargestNumberZeroListsNothing) {
 TEST_F(AccessibleReportTest, TheLargestNumberOneListsTwoAncestorsAndOneChild) {
   settings_.parentChildrenMax = 1;
   EXPECT_EQ(Report(button_, 0),
-            L"MSAA(MS Active Accessibility)情報\r\n" LINE39
-            L"Name       : 追加\r\n"
-            L"Value      : 加\r\n"
-            L"Role       : 43 ボタン\r\n"
-            L"State      : x0 \r\n"
-            L"KbShortCut : \r\n"
-            L"Location   : (l:10,t:36,r:110,b:52)\r\n"
-            L"ChildCount : 0\r\n"
-            L"DefAction  : \r\n"
-            L"Description: \r\n"
-            L"\r\n"
-            L"Id         : 0\r\n"
-            L"Object Type: Container\r\n"
-            L"\r\n"
+            L"MSAA(MS Active Accessibility)情報\r\n" LINE39 + accessible::MemberLines({.name = L"追加", .value = L"加", .role = L"43 ボタン", .location = L"l:10,t:36,r:110,b:52", .childCount = L"0"}) + 
             L"Ancestors  : top → bottom\r\n" COLUMNS
             L" \"組\"\t20:グループ化\t(5,15,205,115)\tChildCount=1\t\"組\"\r\n"
             L" \"果物の一覧\"\t33:リスト\t(10,20,110,100)\tChildCount=3\t\"果物の一覧\"\r\n"
@@ -163,26 +133,16 @@ TEST_F(AccessibleReportTest, TheRoleDecidesNotItsName) {
 
 TEST_F(AccessibleReportTest, WithoutAncestorsThereIsAnError) {
   settings_.parentChildren = 0;
-  EXPECT_EQ(Report(window_, 0),
-            L"MSAA(MS Active Accessibility)情報\r\n" LINE39
-            L"Name       : 窓の題\r\n"
-            L"Value      : \r\n"
-            L"Role       : 9 ウィンドウ\r\n"
-            L"State      : x0 \r\n"
-            L"KbShortCut : \r\n"
-            L"Location   : (l:0,t:0,r:640,b:480)\r\n"
-            L"ChildCount : 1\r\n"
-            L"DefAction  : \r\n"
-            L"Description: \r\n"
-            L"\r\n"
-            L"Id         : 0\r\n"
-            L"Object Type: Container\r\n"
-            L"\r\n"
-            L"Ancestors  : \r\n"
-            L"\r\n"
-            L"GetParentObject failed\r\n"
-            L"\r\n"
-            L"Children   : 1 max=10\r\n" COLUMNS);
+  EXPECT_EQ(Report(window_, 0), L"MSAA(MS Active Accessibility)情報\r\n" LINE39 +
+                                    accessible::MemberLines({.name = L"窓の題",
+                                                             .role = L"9 ウィンドウ",
+                                                             .location = L"l:0,t:0,r:640,b:480",
+                                                             .childCount = L"1"}) +
+                                    L"Ancestors  : \r\n"
+                                    L"\r\n"
+                                    L"GetParentObject failed\r\n"
+                                    L"\r\n"
+                                    L"Children   : 1 max=10\r\n" COLUMNS);
 }
 
 TEST_F(AccessibleReportTest, AnEdgeBeyond32BitsEndsTheReport) {
@@ -244,26 +204,16 @@ TEST_F(AccessibleReportTest, FailingMembersAreEmpty) {
   for (const HRESULT code : {E_NOTIMPL, E_FAIL, DISP_E_MEMBERNOTFOUND, RPC_E_DISCONNECTED}) {
     button_.failures[""] = code;
     button_.failures["accRole"] = S_OK;
-    EXPECT_EQ(Report(button_, 0),
-              L"MSAA(MS Active Accessibility)情報\r\n" LINE39
-              L"Name       : \r\n"
-              L"Value      : \r\n"
-              L"Role       : 43 ボタン\r\n"
-              L"State      : x \r\n"
-              L"KbShortCut : \r\n"
-              L"Location   : (l:0,t:0,r:0,b:0)\r\n"
-              L"ChildCount : \r\n"
-              L"DefAction  : \r\n"
-              L"Description: \r\n"
-              L"\r\n"
-              L"Id         : 0\r\n"
-              L"Object Type: Real Object\r\n"
-              L"\r\n"
-              L"Ancestors  : \r\n"
-              L"\r\n"
-              L"GetParentObject failed\r\n"
-              L"\r\n"
-              L"Children   :  max=10\r\n" COLUMNS);
+    EXPECT_EQ(Report(button_, 0), L"MSAA(MS Active Accessibility)情報\r\n" LINE39 +
+                                      accessible::MemberLines({.role = L"43 ボタン",
+                                                               .state = L"x ",
+                                                               .location = L"l:0,t:0,r:0,b:0",
+                                                               .type = L"Real Object"}) +
+                                      L"Ancestors  : \r\n"
+                                      L"\r\n"
+                                      L"GetParentObject failed\r\n"
+                                      L"\r\n"
+                                      L"Children   :  max=10\r\n" COLUMNS);
     EXPECT_EQ(record_.parentName, L"");
   }
   EXPECT_THAT(boxes_, ElementsAre());

@@ -113,6 +113,10 @@ constexpr Words kWords[] = {
     {OptListview0, L"タブ区切り", L"エクセルに直接貼り付けることが出来ます"},
     {OptListview1, L"カンマ区切り", L"CSVファイルとして利用可"},
     {OptListview2, L"１列目のみ", L"複数列の場合、2列目以降を無視"},
+    {chkReadWhole, L"省略せずに読む",
+     L"長い文字列や大きなリストビューを、途中で切らずに最後まで読み取ります（時間がかかることがあり"
+     L"ま"
+     L"す）"},
     {lblAccNameMax, L"accNameの取得最大長", L""},
     {lblChildMaxCount, L"AccessiblityでのChild最大取得個数", L""},
     {cmbChildMaxCount, L"", L"MSAA(Microsoft Active Accessibility)でのParent/Child最大取得個数"},

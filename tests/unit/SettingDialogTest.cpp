@@ -77,6 +77,7 @@ constexpr BoxCase kBoxes[] = {
     {chkDispText, &S::dispText},
     {ChkAccFromhWnd, &S::fromHwnd},
     {chkTreeViewIndent, &S::treeviewIndent},
+    {chkReadWhole, &S::readWhole},
 };
 
 TEST_F(SettingDialogTest, CheckBoxesStoreAtOnce) {
