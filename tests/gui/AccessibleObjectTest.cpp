@@ -313,11 +313,15 @@ TEST_F(AccessibleObjectTest, HostileObjectsDoNotEndTheCapture) {
   }
 }
 
+// Nothing has been typed into them.
+constexpr char kEmpty[] = "ここに文字列はありません";
+
 struct RealProgram {
   const char* file;
   const char* windowClass;
   const char* partClass;
   const char* role;
+  const char* remark = "";
 };
 
 class AccessibleProgramTest : public AccessibleObjectTest,
@@ -340,19 +344,19 @@ TEST_P(AccessibleProgramTest, IsReported) {
                std::string::npos &&
            seen.find("Children   : ") != std::string::npos;
   }));
-  EXPECT_TRUE(program[ui::lblMsg].TextBecomes(""));
+  EXPECT_TRUE(program[ui::lblMsg].TextBecomes(GetParam().remark));
   SaveScreenshotWhenPainted(std::string("details-") + GetParam().partClass);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     All, AccessibleProgramTest,
-    testing::Values(RealProgram{"notepad.exe", "Notepad", "Edit", "42 テキスト"},
+    testing::Values(RealProgram{"notepad.exe", "Notepad", "Edit", "42 テキスト", kEmpty},
                     RealProgram{"regedit.exe", "RegEdit_RegEdit", "SysTreeView32",
                                 "10 クライアント"},
                     RealProgram{"winecfg.exe", "#32770", "SysTabControl32", "10 クライアント"},
                     // What write.exe starts.
                     RealProgram{"C:\\Program Files\\Windows NT\\Accessories\\wordpad.exe",
-                                "WORDPADTOP", "RichEdit20W", "10 クライアント"}));
+                                "WORDPADTOP", "RichEdit20W", "10 クライアント", kEmpty}));
 
 }  // namespace
 }  // namespace gui
