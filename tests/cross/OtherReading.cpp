@@ -9,62 +9,11 @@
 
 #include "ListFixture.h"
 #include "Reading.h"
+#include "TargetRoom.h"
 #include "driver/Owners.h"
 
 namespace cross {
 namespace {
-
-constexpr std::size_t kTextAt = 256;  // the record comes before the text
-constexpr std::size_t kTextLength = 8192;
-
-int Ask(HWND control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-  DWORD_PTR answer = 0;
-  if (!SendMessageTimeoutW(control, message, wParam, lParam, SMTO_NORMAL, 20'000, &answer)) {
-    throw std::runtime_error("the control does not answer");
-  }
-  return static_cast<int>(answer);
-}
-
-// A record and a text in the process of a control.
-class Room {
- public:
-  explicit Room(HWND control) {
-    DWORD processId = 0;
-    GetWindowThreadProcessId(control, &processId);
-    process_.reset(OpenProcess(PROCESS_ALL_ACCESS, FALSE, processId));
-    base_ = VirtualAllocEx(process_.get(), nullptr, kTextAt + 2 * kTextLength, MEM_COMMIT,
-                           PAGE_READWRITE);
-    if (base_ == nullptr) throw std::runtime_error("no room in the target");
-  }
-  ~Room() { VirtualFreeEx(process_.get(), base_, 0, MEM_RELEASE); }
-  Room(const Room&) = delete;
-  Room& operator=(const Room&) = delete;
-
-  LPARAM Record() const { return reinterpret_cast<LPARAM>(base_); }
-  std::uint32_t Text() const { return static_cast<std::uint32_t>(Record()) + kTextAt; }
-
-  void Put(const std::vector<std::uint32_t>& record) const {
-    std::vector<char> bytes(kTextAt + 2 * kTextLength);
-    std::copy_n(reinterpret_cast<const char*>(record.data()), record.size() * 4, bytes.data());
-    WriteProcessMemory(process_.get(), base_, bytes.data(), bytes.size(), nullptr);
-  }
-  std::wstring TakeText(std::size_t at = kTextAt) const {
-    std::vector<wchar_t> text(kTextLength);
-    ReadProcessMemory(process_.get(), static_cast<const char*>(base_) + at, text.data(),
-                      2 * (kTextLength - 1), nullptr);
-    return text.data();
-  }
-  std::uint32_t TakeField(std::size_t index) const {
-    std::uint32_t field = 0;
-    ReadProcessMemory(process_.get(), static_cast<const char*>(base_) + 4 * index, &field, 4,
-                      nullptr);
-    return field;
-  }
-
- private:
-  gui::OwnedHandle process_;
-  void* base_;
-};
 
 // Lists whose owner draws the items may hold values of the owner's in place of texts.
 bool HoldsTexts(HWND control, LONG_PTR hasTexts) {
@@ -99,12 +48,13 @@ std::wstring ListViewItems(HWND control) {
   const int rows = Ask(control, LVM_GETITEMCOUNT);
   HWND header = FindWindowExW(control, nullptr, WC_HEADERW, nullptr);
   const int columns = header == nullptr ? 0 : Ask(header, HDM_GETITEMCOUNT);
-  const Room room(control);
+  const TargetRoom room(control);
   std::wstring result;
   bool any = false;
   for (int row = 0; row < rows; ++row) {
     for (int column = 0; column < columns; ++column) {
-      room.Put({0, 0, static_cast<std::uint32_t>(column), 0, 0, room.Text(), kTextLength});
+      room.Put(
+          {0, 0, static_cast<std::uint32_t>(column), 0, 0, room.Text(), TargetRoom::kTextLength});
       Ask(control, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), room.Record());
       const std::wstring cell = ThroughBlock(room.TakeText(), 256);
       any = any || !cell.empty();
@@ -116,7 +66,7 @@ std::wstring ListViewItems(HWND control) {
 }
 
 std::wstring ToolbarTexts(HWND control) {
-  const Room room(control);
+  const TargetRoom room(control);
   std::wstring result;
   const int buttons = Ask(control, TB_BUTTONCOUNT);
   for (int i = 0; i < buttons; ++i) {
@@ -131,15 +81,15 @@ std::wstring ToolbarTexts(HWND control) {
 }
 
 std::wstring TabCaptions(HWND control) {
-  const Room room(control);
+  const TargetRoom room(control);
   std::wstring result;
   const bool is64 = IsIn64BitProcess(control);
   const int tabs = Ask(control, TCM_GETITEMCOUNT);
   for (int i = 0; i < tabs; ++i) {
     if (is64) {
-      room.Put({TCIF_TEXT, 0, 0, 0, room.Text(), 0, kTextLength});
+      room.Put({TCIF_TEXT, 0, 0, 0, room.Text(), 0, TargetRoom::kTextLength});
     } else {
-      room.Put({TCIF_TEXT, 0, 0, room.Text(), kTextLength});
+      room.Put({TCIF_TEXT, 0, 0, room.Text(), TargetRoom::kTextLength});
     }
     Ask(control, TCM_GETITEMW, static_cast<WPARAM>(i), room.Record());
     result += ThroughBlock(room.TakeText(), 255) + L"\r\n";

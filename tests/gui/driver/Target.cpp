@@ -5,25 +5,13 @@
 #include <stdexcept>
 
 #include "driver/Paths.h"
+#include "driver/RealSystemFolder.h"
 #include "driver/Text.h"
 #include "driver/Windows.h"
 #include "fixture/Messages.h"
 
 namespace gui {
 namespace {
-
-// A 32-bit process sees the 32-bit versions of the system's programs, and some of those only start
-// the real program and wait. Does nothing on a 32-bit system.
-class RealSystemFolder {
- public:
-  RealSystemFolder() { Wow64DisableWow64FsRedirection(&before_); }
-  ~RealSystemFolder() { Wow64RevertWow64FsRedirection(before_); }
-  RealSystemFolder(const RealSystemFolder&) = delete;
-  RealSystemFolder& operator=(const RealSystemFolder&) = delete;
-
- private:
-  void* before_ = nullptr;
-};
 
 std::unique_ptr<ChildProcess> StartSystemProgram(std::string_view name,
                                                  std::string_view arguments) {
