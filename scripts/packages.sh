@@ -9,6 +9,8 @@ set -euo pipefail
 readonly packages=(
   # Build: the program is 32-bit; some targets of the tests are 64-bit.
   cmake ninja-build g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix googletest
+  # Build: the installer that the tests read.
+  nsis
   # Run: Wine for both kinds of program, the Japanese locale and the fonts to show it.
   wine wine32:i386 wine64 fonts-wine locales fonts-ipafont-gothic
   # Drive and look: the virtual display, its pointer and keys, queries, screenshots.

@@ -1,0 +1,72 @@
+// Every window of programs that nobody here wrote: what a report shows of it is what it holds, or
+// there is a reason that can be checked.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <map>
+#include <string>
+
+#include "OtherReading.h"
+#include "Programs.h"
+#include "Reading.h"
+#include "RegistryKey.h"
+#include "Summary.h"
+#include "Verdict.h"
+#include "driver/Control.h"
+#include "driver/GuiTest.h"
+#include "driver/Text.h"
+
+namespace corpus {
+namespace {
+
+// What some of the programs show.
+struct RegistryContents {
+  cross::RegistryKey shown{
+      HKEY_CURRENT_USER,
+      L"Software\\Velmora 試験",
+      {{L"名前", L"値, \"引用\""}, {L"b", L"c"}, {L"長い", std::wstring(300, L'長')}}};
+  cross::RegistryKey start{HKEY_CURRENT_USER,
+                           L"Software\\Microsoft\\Windows\\CurrentVersion\\Applets\\Regedit",
+                           {{L"LastKey", L"HKEY_CURRENT_USER\\Software\\Velmora 試験"}}};
+  cross::RegistryKey installed{
+      HKEY_LOCAL_MACHINE,
+      L"Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\Velmora 試験",
+      {{L"DisplayName", L"試験用プログラム"},
+       {L"Publisher", L"発行元"},
+       {L"DisplayVersion", L"1.2"},
+       {L"UninstallString", L"none.exe"}}};
+};
+
+class CorpusTest : public testing::WithParamInterface<ProgramCase>, public gui::GuiTest {
+ private:
+  RegistryContents contents_;
+};
+
+std::string TextShown(const WindowTexts& texts) {
+  return cross::Shown(texts.items.empty() ? texts.caption : texts.items);
+}
+
+TEST_P(CorpusTest, NothingUnderThePointerStaysUnread) {
+  const ProgramCase& one = GetParam();
+  const RunningProgram program(one);
+  for (HWND window : program.Windows()) {
+    // A program may close some of its windows meanwhile.
+    if (!IsWindow(window)) continue;
+    EXPECT_EQ(cross::IsIn64BitProcess(window), one.bits == cross::Bits::k64);
+    const std::string className = gui::Control(window, "").ClassName();
+    const Verdict verdict = Judge(window);
+    Count(verdict.outcome);
+    std::printf("corpus | %-21s | %-20s | %-17s | %-25s | %s\n", one.name.c_str(),
+                className.c_str(), NameOf(verdict.outcome), gui::ToUtf8(verdict.way).c_str(),
+                TextShown(verdict.texts).c_str());
+    EXPECT_NE(verdict.outcome, Outcome::kUnread) << className << "\n" << verdict.missing;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Programs, CorpusTest, testing::ValuesIn(ProgramsOfThisSystem()),
+                         [](const auto& test) { return test.param.name; });
+
+}  // namespace
+}  // namespace corpus

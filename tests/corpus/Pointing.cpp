@@ -1,0 +1,93 @@
+#include "Pointing.h"
+
+#include <algorithm>
+
+#include "extract/WindowAtPoint.h"
+
+namespace corpus {
+namespace {
+
+constexpr int kPointsInARow = 24;
+
+// What of the window is inside its parents and on the screen, in screen pixels.
+RECT PlaceOf(HWND window) {
+  RECT place{};
+  GetWindowRect(window, &place);
+  const RECT screen{0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+  IntersectRect(&place, &place, &screen);
+  for (HWND parent = GetAncestor(window, GA_PARENT);
+       parent != nullptr && parent != GetDesktopWindow(); parent = GetAncestor(parent, GA_PARENT)) {
+    RECT inside{};
+    GetClientRect(parent, &inside);
+    MapWindowPoints(parent, nullptr, reinterpret_cast<POINT*>(&inside), 2);
+    IntersectRect(&place, &place, &inside);
+  }
+  return place;
+}
+
+bool Covers(HWND other, HWND window, POINT point) {
+  RECT place{};
+  GetWindowRect(other, &place);
+  return IsWindowVisible(other) && PtInRect(&place, point) && !IsChild(other, window);
+}
+
+class Search {
+ public:
+  explicit Search(HWND window) : window_(window) {}
+
+  // Whether the window is meant at the point.
+  bool Try(POINT point) {
+    const HWND given = WindowFromPoint(point);
+    const HWND meant = extract::WindowMeant(given, point);
+    if (meant == window_) {
+      result_.point = platform::ReadPoint{point, meant == given ? nullptr : meant};
+      return true;
+    }
+    Note(meant, point);
+    return false;
+  }
+
+  Pointed Result() {
+    if (!result_.point) {
+      result_.hindrance = result_.met != nullptr ? Hindrance::kUnknown
+                          : covered_             ? Hindrance::kCovered
+                                                 : Hindrance::kItsParts;
+    }
+    return result_;
+  }
+
+ private:
+  void Note(HWND met, POINT point) {
+    if (IsChild(window_, met)) return;
+    if (Covers(met, window_, point)) {
+      covered_ = true;
+    } else {
+      result_.met = met;
+    }
+  }
+
+  HWND window_;
+  Pointed result_;
+  bool covered_ = false;
+};
+
+}  // namespace
+
+Pointed PointAt(HWND window) {
+  const RECT place = PlaceOf(window);
+  if (IsRectEmpty(&place)) return {.point = {}, .hindrance = Hindrance::kNoPlace};
+  Search search(window);
+  if (search.Try({(place.left + place.right) / 2, (place.top + place.bottom) / 2})) {
+    return search.Result();
+  }
+  const LONG stepX = std::max<LONG>((place.right - place.left) / kPointsInARow, 1);
+  const LONG stepY = std::max<LONG>((place.bottom - place.top) / kPointsInARow, 1);
+  for (LONG y = place.top; y < place.bottom; y += stepY) {
+    for (LONG x = place.left; x < place.right; x += stepX) {
+      if (search.Try({x, y})) return search.Result();
+    }
+  }
+  return search.Result();
+}
+
+}  // namespace corpus
