@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <map>
+#include <set>
 #include <string>
 
 #include "OtherReading.h"
@@ -48,20 +48,26 @@ std::string TextShown(const WindowTexts& texts) {
   return cross::Shown(texts.items.empty() ? texts.caption : texts.items);
 }
 
+void ExpectRead(const ProgramCase& program, HWND window) {
+  EXPECT_EQ(cross::IsIn64BitProcess(window), program.bits == cross::Bits::k64);
+  const std::string className = gui::Control(window, "").ClassName();
+  const Verdict verdict = Judge(window);
+  Count(verdict.outcome);
+  std::printf("corpus | %-21s | %-22s | %-17s | %-25s | %s\n", program.name.c_str(),
+              className.c_str(), NameOf(verdict.outcome), gui::ToUtf8(verdict.way).c_str(),
+              TextShown(verdict.texts).c_str());
+  EXPECT_NE(verdict.outcome, Outcome::kUnread) << className << "\n" << verdict.missing;
+}
+
 TEST_P(CorpusTest, NothingUnderThePointerStaysUnread) {
   const ProgramCase& one = GetParam();
   const RunningProgram program(one);
-  for (HWND window : program.Windows()) {
-    // A program may close some of its windows meanwhile.
-    if (!IsWindow(window)) continue;
-    EXPECT_EQ(cross::IsIn64BitProcess(window), one.bits == cross::Bits::k64);
-    const std::string className = gui::Control(window, "").ClassName();
-    const Verdict verdict = Judge(window);
-    Count(verdict.outcome);
-    std::printf("corpus | %-21s | %-20s | %-17s | %-25s | %s\n", one.name.c_str(),
-                className.c_str(), NameOf(verdict.outcome), gui::ToUtf8(verdict.way).c_str(),
-                TextShown(verdict.texts).c_str());
-    EXPECT_NE(verdict.outcome, Outcome::kUnread) << className << "\n" << verdict.missing;
+  std::set<HWND> seen;
+  for (int page = 0; page < program.Pages(); ++page) {
+    if (page > 0) program.ShowPage(page);
+    for (HWND window : program.Windows()) {
+      if (seen.insert(window).second) ExpectRead(one, window);
+    }
   }
 }
 

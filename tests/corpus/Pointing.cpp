@@ -1,13 +1,25 @@
 #include "Pointing.h"
 
 #include <algorithm>
+#include <vector>
 
+#include "WindowTexts.h"
+#include "driver/Control.h"
 #include "extract/WindowAtPoint.h"
 
 namespace corpus {
 namespace {
 
-constexpr int kPointsInARow = 24;
+constexpr LONG kPointsInARow = 24;
+
+// Pixels from the first to the last one before the end.
+std::vector<LONG> Spread(LONG first, LONG end) {
+  std::vector<LONG> pixels;
+  const LONG step = std::max<LONG>((end - first) / kPointsInARow, 1);
+  for (LONG pixel = first; pixel < end; pixel += step) pixels.push_back(pixel);
+  pixels.push_back(end - 1);
+  return pixels;
+}
 
 // What of the window is inside its parents and on the screen, in screen pixels.
 RECT PlaceOf(HWND window) {
@@ -25,10 +37,17 @@ RECT PlaceOf(HWND window) {
   return place;
 }
 
+// A label without a text hides nothing of its siblings: they show through or are painted over it.
+bool ShowsWhatIsBelow(HWND other, HWND window) {
+  return GetParent(other) == GetParent(window) && gui::Control(other, "").ClassName() == "Static" &&
+         TextsOf(other).caption.empty();
+}
+
 bool Covers(HWND other, HWND window, POINT point) {
   RECT place{};
   GetWindowRect(other, &place);
-  return IsWindowVisible(other) && PtInRect(&place, point) && !IsChild(other, window);
+  return IsWindowVisible(other) && PtInRect(&place, point) && !IsChild(other, window) &&
+         !ShowsWhatIsBelow(other, window);
 }
 
 class Search {
@@ -80,10 +99,8 @@ Pointed PointAt(HWND window) {
   if (search.Try({(place.left + place.right) / 2, (place.top + place.bottom) / 2})) {
     return search.Result();
   }
-  const LONG stepX = std::max<LONG>((place.right - place.left) / kPointsInARow, 1);
-  const LONG stepY = std::max<LONG>((place.bottom - place.top) / kPointsInARow, 1);
-  for (LONG y = place.top; y < place.bottom; y += stepY) {
-    for (LONG x = place.left; x < place.right; x += stepX) {
+  for (const LONG y : Spread(place.top, place.bottom)) {
+    for (const LONG x : Spread(place.left, place.right)) {
       if (search.Try({x, y})) return search.Result();
     }
   }

@@ -1,5 +1,7 @@
 #include "Programs.h"
 
+#include <commctrl.h>
+
 #include <array>
 #include <filesystem>
 #include <fstream>
@@ -7,6 +9,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "TargetRoom.h"
 #include "WindowTexts.h"
 #include "driver/Control.h"
 #include "driver/Paths.h"
@@ -86,19 +89,14 @@ std::string ArgumentsOf(const ProgramCase& program) {
                                           : program.arguments;
 }
 
-// What the programs unpack for themselves.
-std::filesystem::path FolderForTemporaryFiles() {
-  const std::filesystem::path folder = gui::FreshFolder();
+std::unique_ptr<gui::ChildProcess> Start(const ProgramCase& program,
+                                         const std::filesystem::path& folder) {
+  // For what it unpacks for itself.
   SetEnvironmentVariableW(L"TEMP", folder.c_str());
   SetEnvironmentVariableW(L"TMP", folder.c_str());
-  return folder;
-}
-
-std::unique_ptr<gui::ChildProcess> Start(const ProgramCase& program) {
   std::optional<gui::RealSystemFolder> seen;
   if (program.bits == Bits::k64) seen.emplace();
-  return std::make_unique<gui::ChildProcess>(FileOf(program), ArgumentsOf(program),
-                                             FolderForTemporaryFiles());
+  return std::make_unique<gui::ChildProcess>(FileOf(program), ArgumentsOf(program), folder);
 }
 
 std::string Seen(const std::vector<HWND>& windows, int& withText, int& characters) {
@@ -137,7 +135,8 @@ std::wstring Licence() {
   return gui::ToWide(bytes.starts_with(kMark) ? bytes.substr(kMark.size()) : bytes);
 }
 
-RunningProgram::RunningProgram(const ProgramCase& program) : process_(Start(program)) {
+RunningProgram::RunningProgram(const ProgramCase& program)
+    : folder_(gui::FreshFolder()), process_(Start(program, folder_)) {
   gui::WaitForWindow(*process_, program.windowClass);
   gui::Require(gui::WaitFor(program.name + " shows its texts", [&](std::string& seen) {
     int windows = 0;
@@ -156,6 +155,30 @@ std::vector<HWND> RunningProgram::Windows() const {
     }
   }
   return windows;
+}
+
+HWND RunningProgram::Tabs() const {
+  for (HWND window : Windows()) {
+    if (gui::Control(window, "").ClassName() == "SysTabControl32") return window;
+  }
+  return nullptr;
+}
+
+int RunningProgram::Pages() const {
+  HWND tabs = Tabs();
+  return tabs == nullptr ? 1 : cross::Ask(tabs, TCM_GETITEMCOUNT);
+}
+
+void RunningProgram::ShowPage(int page) const {
+  HWND tabs = Tabs();
+  if (tabs == nullptr) return;
+  // Unlike TCM_SETCURSEL this tells the program.
+  cross::Ask(tabs, TCM_SETCURFOCUS, static_cast<WPARAM>(page));
+  gui::Require(gui::WaitFor("page " + std::to_string(page) + " shows", [&](std::string& seen) {
+    const int shown = cross::Ask(tabs, TCM_GETCURSEL);
+    seen = "page " + std::to_string(shown);
+    return shown == page;
+  }));
 }
 
 }  // namespace corpus

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <filesystem>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -39,7 +40,18 @@ class RunningProgram {
   // Its visible windows: the top-level ones, each followed by those inside.
   std::vector<HWND> Windows() const;
 
+  // The pages of its tabs: one more than the number of the last; 1 when it has no tabs.
+  int Pages() const;
+  // Waits until that page is selected.
+  void ShowPage(int page) const;
+
+  // Its folder for temporary files, which belongs to the running test.
+  const std::filesystem::path& Folder() const { return folder_; }
+
  private:
+  HWND Tabs() const;
+
+  std::filesystem::path folder_;
   std::unique_ptr<gui::ChildProcess> process_;
 };
 
