@@ -18,8 +18,11 @@ constexpr std::wstring_view kLineFeedMark = L"%!LF!%";
 // size: characters, the zero character included.
 std::wstring TextOfSize(HWND hwnd, std::size_t size) {
   std::wstring buffer(size, L'\0');
-  SendMessageW(hwnd, WM_GETTEXT, size, reinterpret_cast<LPARAM>(buffer.data()));
-  return extract::UpToNul(buffer);
+  const LRESULT copied =
+      SendMessageW(hwnd, WM_GETTEXT, size, reinterpret_cast<LPARAM>(buffer.data()));
+  // A window that copied nothing need not have ended the text either: then the buffer comes from
+  // its process with whatever was there.
+  return copied == 0 ? std::wstring() : extract::UpToNul(buffer);
 }
 
 }  // namespace

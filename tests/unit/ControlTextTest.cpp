@@ -23,6 +23,7 @@ struct Answers {
   std::vector<WPARAM> bufferSizes;
   std::wstring text;
   bool fillsTheBuffer = false;  // leaves no zero character
+  bool copiesNothing = false;   // and says so, but the buffer holds something
 };
 
 Answers answers;
@@ -38,7 +39,7 @@ LRESULT CALLBACK AskedProcedure(HWND hwnd, UINT message, WPARAM wParam, LPARAM l
   const std::wstring text = answers.text.substr(0, wParam - 1);
   text.copy(buffer, text.size());
   buffer[text.size()] = L'\0';
-  return static_cast<LRESULT>(text.size());
+  return answers.copiesNothing ? 0 : static_cast<LRESULT>(text.size());
 }
 
 class ControlTextTest : public testing::Test {
@@ -116,6 +117,14 @@ TEST_F(ControlTextTest, NoTextLeavesTheMethod) {
   EXPECT_EQ(EditText(window.Get(), method), L"");
   EXPECT_EQ(EditText(nullptr, method), L"");
   EXPECT_EQ(method, L"(before)");
+}
+
+TEST_F(ControlTextTest, WhereNothingWasCopiedThereIsNoText) {
+  const auto window = Window(kClass);
+  answers.text = L"\x98 left over";
+  answers.copiesNothing = true;
+  EXPECT_EQ(Win32API_Window::WindowTextByMessage(window.Get()), L"");
+  EXPECT_EQ(Win32API_Window::WholeWindowText(window.Get()), L"");
 }
 
 TEST_F(ControlTextTest, ClassNamesAreReadUpTo127Characters) {
