@@ -37,8 +37,8 @@ RECT PlaceOf(HWND window) {
   return place;
 }
 
-// A label without a text hides nothing of its siblings: they show through or are painted over it.
-bool ShowsWhatIsBelow(HWND other, HWND window) {
+// Whether other is a label without a text: its siblings show through it, or are painted over it.
+bool IsLabelOver(HWND other, HWND window) {
   return GetParent(other) == GetParent(window) && gui::Control(other, "").ClassName() == "Static" &&
          TextsOf(other).caption.empty();
 }
@@ -46,8 +46,7 @@ bool ShowsWhatIsBelow(HWND other, HWND window) {
 bool Covers(HWND other, HWND window, POINT point) {
   RECT place{};
   GetWindowRect(other, &place);
-  return IsWindowVisible(other) && PtInRect(&place, point) && !IsChild(other, window) &&
-         !ShowsWhatIsBelow(other, window);
+  return IsWindowVisible(other) && PtInRect(&place, point) && !IsChild(other, window);
 }
 
 class Search {
@@ -70,6 +69,7 @@ class Search {
     if (!result_.point) {
       result_.hindrance = result_.met != nullptr ? Hindrance::kUnknown
                           : covered_             ? Hindrance::kCovered
+                          : underLabel_          ? Hindrance::kUnderLabel
                                                  : Hindrance::kItsParts;
     }
     return result_;
@@ -78,16 +78,19 @@ class Search {
  private:
   void Note(HWND met, POINT point) {
     if (IsChild(window_, met)) return;
-    if (Covers(met, window_, point)) {
-      covered_ = true;
-    } else {
+    if (!Covers(met, window_, point)) {
       result_.met = met;
+    } else if (IsLabelOver(met, window_)) {
+      underLabel_ = true;
+    } else {
+      covered_ = true;
     }
   }
 
   HWND window_;
   Pointed result_;
   bool covered_ = false;
+  bool underLabel_ = false;
 };
 
 }  // namespace

@@ -13,10 +13,11 @@ namespace corpus {
 // Why no point of the screen means a window.
 enum class Hindrance {
   kNone,
-  kNoPlace,   // no pixel of it is on the screen and inside its parents
-  kItsParts,  // the windows inside it fill it
-  kCovered,   // other windows lie over what they leave of it
-  kUnknown,   // somewhere the program means a window that does not cover it
+  kNoPlace,     // no pixel of it is on the screen and inside its parents
+  kItsParts,    // the windows inside it fill it
+  kCovered,     // other windows lie over what they leave of it
+  kUnderLabel,  // a label without a text does, which shows what is below it
+  kUnknown,     // somewhere the program means a window that does not cover it
 };
 
 struct Pointed {

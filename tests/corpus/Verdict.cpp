@@ -127,6 +127,9 @@ Verdict Unpointed(const Pointed& pointed) {
     case Hindrance::kCovered:
       verdict.outcome = Outcome::kCovered;
       break;
+    case Hindrance::kUnderLabel:
+      verdict.outcome = Outcome::kUnderLabel;
+      break;
     case Hindrance::kNone:
     case Hindrance::kUnknown:
       verdict.missing = "nothing covers it, but another window is meant: " +
@@ -140,8 +143,8 @@ Verdict Unpointed(const Pointed& pointed) {
 
 const char* NameOf(Outcome outcome) {
   constexpr const char* kNames[kOutcomes] = {
-      "read whole", "whole on request",  "long names cut", "no text", "painted",
-      "no place",   "its parts fill it", "covered",        "hung",    "UNREAD"};
+      "read whole",        "whole on request", "long names cut", "no text", "painted", "no place",
+      "its parts fill it", "covered",          "under a label",  "hung",    "UNREAD"};
   return kNames[static_cast<int>(outcome)];
 }
 

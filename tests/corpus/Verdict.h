@@ -20,6 +20,7 @@ enum class Outcome {
   kNoPlace,         // it cannot be pointed at: see Hindrance
   kItsParts,
   kCovered,
+  kUnderLabel,
   kHung,    // it does not answer
   kUnread,  // and this one not at all
 };
