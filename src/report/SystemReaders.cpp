@@ -19,7 +19,9 @@ class SystemReaders : public ReportReaders {
   bool IsHung(HWND hwnd) override { return IsHungAppWindow(hwnd) != FALSE; }
   bool IsOutOfReach(HWND hwnd) override { return RunsAboveThisProgram(hwnd); }
 
-  WindowFacts Facts(HWND hwnd) override { return ReadWindowFacts(hwnd); }
+  WindowFacts Facts(HWND hwnd) override {
+    return IsHung(hwnd) ? ReadHungWindowFacts(hwnd) : ReadWindowFacts(hwnd);
+  }
   WindowInformation Information(const WindowFacts& window) override {
     return ReadWindowInformation(window);
   }

@@ -56,10 +56,12 @@ std::wstring ChildLine(const WindowFacts& child, std::wstring_view winHandle) {
 }  // namespace
 
 WindowFacts ReadWindowFacts(HWND hwnd) {
-  // Of a window in this program the caption is asked for; a window that hangs is asked for nothing.
-  return {hwnd, Win32API_Window::MyGetClassName(hwnd),
-          IsHungAppWindow(hwnd) ? Win32API_Window::StoredWindowText(hwnd)
-                                : Win32API_Window::MyGetWindowText(hwnd),
+  return {hwnd, Win32API_Window::MyGetClassName(hwnd), Win32API_Window::MyGetWindowText(hwnd),
+          PlaceOf(hwnd)};
+}
+
+WindowFacts ReadHungWindowFacts(HWND hwnd) {
+  return {hwnd, Win32API_Window::MyGetClassName(hwnd), Win32API_Window::StoredWindowText(hwnd),
           PlaceOf(hwnd)};
 }
 

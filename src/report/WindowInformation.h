@@ -26,6 +26,9 @@ struct WindowInformation {
 // The facts about one window; of a window that is gone empty texts and a zero rectangle.
 WindowFacts ReadWindowFacts(HWND hwnd);
 
+// The same of a window that may hang: its caption is the one that the system stores.
+WindowFacts ReadHungWindowFacts(HWND hwnd);
+
 // The window with its owner, its ancestors and its visible descendants. Class and title are the
 // given ones, the place is the current one.
 WindowInformation ReadWindowInformation(const WindowFacts& window);

@@ -10,6 +10,7 @@
 #include "FakeSession.h"
 #include "platform/UniqueHandle.h"
 #include "report/ControlReading.h"
+#include "report/WindowInformation.h"
 
 namespace report {
 namespace {
@@ -119,6 +120,22 @@ TEST_F(FirstWayTest, TabControls) {
   item.pszText = text;
   Tell(tabs, TCM_INSERTITEMW, 0, &item);
   EXPECT_THAT(Messages(Category::TabControl), ElementsAre(TCM_GETITEMCOUNT, TCM_GETITEMA));
+}
+
+// Its caption is the one that the system stores; asked for its text it would have to answer.
+TEST_F(FirstWayTest, AWindowThatMayHangIsSentNothing) {
+  const HWND window = Make(L"STATIC", L"眠る\n窓");
+  SetWindowSubclass(window, Record, 1, 0);
+  received.clear();
+  const WindowFacts facts = ReadHungWindowFacts(window);
+  EXPECT_THAT(received, ElementsAre());
+  EXPECT_EQ(facts.hwnd, window);
+  EXPECT_EQ(facts.className, L"Static");
+  EXPECT_EQ(facts.title, L"眠る\r\n窓");
+  EXPECT_EQ(facts.place.right - facts.place.left, 300);
+  EXPECT_EQ(ReadWindowFacts(window).title, facts.title);
+  EXPECT_THAT(received, testing::Contains(WM_GETTEXT));
+  RemoveWindowSubclass(window, Record, 1);
 }
 
 }  // namespace
