@@ -36,6 +36,7 @@ struct Row {
 };
 
 constexpr Row kRows[] = {
+    {"InstallerWelcome", "", "welcome", "#32770", 5, 200},
     {"InstallerLicence", "", "licence", "#32770", 8, 6000},
     {"InstallerComponents", "", "components", "#32770", 8, 150},
     {"InstallerFolder", "", "folder", "#32770", 8, 100},

@@ -1,8 +1,9 @@
-; An installer as users meet them, for the tests: it installs nothing and writes no file of its own.
+; An installer in the look that most of them have, for the tests: it installs nothing and writes no
+; file of its own.
 ;
 ;   makensis -INPUTCHARSET UTF8 -DTARGET=x86-unicode -DOUTPUT=… -DLICENCE=… installer.nsi
 ;
-; /page=licence, components, folder, choices or log opens it at that page.
+; /page=welcome, licence, components, folder, choices or log opens it at that page.
 Target "${TARGET}"
 Unicode true
 RequestExecutionLevel user
@@ -12,23 +13,27 @@ CRCCheck off
 
 !include FileFunc.nsh
 !include LogicLib.nsh
+!include MUI2.nsh
 !include nsDialogs.nsh
 
-LoadLanguageFile "${NSISDIR}/Contrib/Language files/Japanese.nlf"
 Name "試験用インストーラー"
 OutFile "${OUTPUT}"
 InstallDir "C:\試験\インストール先 フォルダ"
-LicenseText "使用許諾契約をお読みください。" "同意する(&A)"
-LicenseData "${LICENCE}"
-LicenseForceSelection checkbox "使用許諾契約に同意します(&T)"
 ShowInstDetails show
 AutoCloseWindow false
 SpaceTexts none
+!define MUI_HEADERIMAGE
+!define MUI_LICENSEPAGE_CHECKBOX
 
+Var wanted
+Var opened
+
+; A page that is skipped unless it is the wanted one or comes later.
 !macro PAGE NAME KIND
-  PageEx ${KIND}
-    PageCallbacks Before${NAME}
-  PageExEnd
+  !define MUI_PAGE_CUSTOMFUNCTION_PRE Before${NAME}
+  !insertmacro MUI_PAGE_${KIND}
+!macroend
+!macro BEFORE NAME
   Function Before${NAME}
     ${If} $opened == ""
     ${AndIf} $wanted != "${NAME}"
@@ -38,15 +43,20 @@ SpaceTexts none
   FunctionEnd
 !macroend
 
-Var wanted
-Var opened
-
-!insertmacro PAGE licence license
-!insertmacro PAGE components components
-!insertmacro PAGE folder directory
-
+!insertmacro PAGE welcome WELCOME
+!define MUI_PAGE_CUSTOMFUNCTION_PRE Beforelicence
+!insertmacro MUI_PAGE_LICENSE "${LICENCE}"
+!insertmacro PAGE components COMPONENTS
+!insertmacro PAGE folder DIRECTORY
 Page custom ShowChoices
-!insertmacro PAGE log instfiles
+!insertmacro PAGE log INSTFILES
+!insertmacro MUI_LANGUAGE Japanese
+
+!insertmacro BEFORE welcome
+!insertmacro BEFORE licence
+!insertmacro BEFORE components
+!insertmacro BEFORE folder
+!insertmacro BEFORE log
 
 Function .onInit
   ${GetParameters} $0
@@ -63,6 +73,7 @@ Function ShowChoices
     Abort
   ${EndIf}
   StrCpy $opened yes
+  !insertmacro MUI_HEADER_TEXT "起動方法" "起動する場所を選んでください。"
   nsDialogs::Create 1018
   Pop $0
   ${NSD_CreateGroupBox} 0 0 100% 62u "起動方法"
