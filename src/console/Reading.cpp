@@ -63,12 +63,26 @@ HWND HeaderOf(HWND listView) {
   return reinterpret_cast<HWND>(INT_PTR{messages.Send(listView, LVM_GETHEADER, 0, 0)});
 }
 
+// The reader of pages looks for the element under the pointer: here it is wherever is read.
+class PointerAt : public MyInternetexplore::BrowserCalls {
+ public:
+  explicit PointerAt(POINT point) : point_(point) {}
+  BOOL GetCursorPos(POINT* point) override {
+    *point = point_;
+    return TRUE;
+  }
+
+ private:
+  POINT point_;
+};
+
 class Reader {
  public:
-  explicit Reader(const ReadOptions& options)
+  Reader(const ReadOptions& options, POINT point)
       : options_(options),
         settings_(SettingsFor(options)),
-        readers_(report::MakeSystemReaders(settings_)) {}
+        calls_(point),
+        readers_(report::MakeSystemReaders(settings_, calls_)) {}
 
   Facts ReadTarget(const Target& target) {
     Facts facts;
@@ -231,13 +245,14 @@ class Reader {
 
   const ReadOptions& options_;
   const settings::Settings settings_;
+  PointerAt calls_;
   const std::unique_ptr<report::ReportReaders> readers_;
 };
 
 }  // namespace
 
 Facts Read(const Target& target, const ReadOptions& options) {
-  return Reader(options).ReadTarget(target);
+  return Reader(options, target.point.at).ReadTarget(target);
 }
 
 }  // namespace console
