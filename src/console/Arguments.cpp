@@ -183,7 +183,7 @@ class Parser {
   ParsedArguments Parse() {
     while (next_ < words_.size() && !parsed_.fault) TakeOption(words_[next_++]);
     if (!parsed_.fault && Given(L"--control") && !Given(L"--title")) {
-      Blame(Fault::kNotTogether, L"--control", L"--pointer");
+      Blame(Fault::kNeeds, L"--control", L"--title");
     }
     return parsed_;
   }

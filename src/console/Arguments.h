@@ -42,13 +42,14 @@ enum class Fault {
   kNoValue,     // its value is missing
   kBadValue,    // its value cannot be used
   kTwice,       // it was given before
+  kNeeds,       // it goes only with another option
   kNotTogether  // it does not go with an option before it
 };
 
 struct ArgumentFault {
   Fault fault;
   std::wstring option;  // as it was written
-  std::wstring other;   // the value, or the option that it does not go with
+  std::wstring other;   // the value, or that other option
 
   bool operator==(const ArgumentFault&) const = default;
 };

@@ -27,6 +27,8 @@ Phrase PhraseOf(Fault fault) {
       return {L"%1：値「%2」は使えません", L"%1: the value \"%2\" cannot be used"};
     case Fault::kTwice:
       return {L"%1：2 回指定されています", L"%1: is given twice"};
+    case Fault::kNeeds:
+      return {L"%1：%2 が必要です", L"%1: needs %2"};
     default:
       return {L"%1：%2 と一緒には使えません", L"%1: cannot be used together with %2"};
   }

@@ -105,7 +105,7 @@ TEST(ArgumentsTest, AWrongArgumentIsNamed) {
       {{L"--tree", L"--csv"}, {Fault::kNotTogether, L"--csv", L"--tree"}},
       {{L"--at", L"1,2", L"--watch"}, {Fault::kNotTogether, L"--watch", L"--at"}},
       {{L"--control", L"Edit", L"--at", L"1,2"}, {Fault::kNotTogether, L"--at", L"--control"}},
-      {{L"--control", L"Edit"}, {Fault::kNotTogether, L"--control", L"--pointer"}},
+      {{L"--control", L"Edit"}, {Fault::kNeeds, L"--control", L"--title"}},
   };
   for (const Case& one : cases) {
     const ParsedArguments parsed = ParseArguments(one.words);
