@@ -1,4 +1,4 @@
-# The zip for users: one folder with the program, its help and a readme. All names in it
+# The zip for users: one folder with both programs, their help and a readme. All names in it
 # are ASCII, so that every program unpacks them correctly.
 
 # Notepad recognises UTF-8 by this mark, and before Windows 10 1809 showed no bare line feeds.
@@ -6,7 +6,7 @@ string(ASCII 239 187 191 BYTE_ORDER_MARK)
 set(VELMORA_README ${PROJECT_BINARY_DIR}/package/Readme.txt)
 configure_file(resources/Readme.txt.in ${VELMORA_README} @ONLY NEWLINE_STYLE CRLF)
 
-install(TARGETS Velmora RUNTIME DESTINATION .)
+install(TARGETS Velmora VelmoraText RUNTIME DESTINATION .)
 install(DIRECTORY resources/help DESTINATION .)
 install(FILES ${VELMORA_README} DESTINATION .)
 

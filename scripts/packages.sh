@@ -11,12 +11,13 @@ readonly packages=(
   cmake ninja-build g++-mingw-w64-i686-posix g++-mingw-w64-x86-64-posix googletest
   # Build: the installer that the tests read.
   nsis
+  nlohmann-json3-dev
   # Run: Wine for both kinds of program, the Japanese locale and the fonts to show it.
   wine wine32:i386 wine64 fonts-wine locales fonts-ipafont-gothic
   # Drive and look: the virtual display, its pointer and keys, queries, screenshots.
   xvfb xdotool x11-utils imagemagick
-  # Check: the format of the sources.
-  clang-format
+  # Check: the format of the sources, the outputs for other programs.
+  clang-format python3
 )
 
 missing_packages() {

@@ -19,18 +19,7 @@ AccessibleFacts ReadFacts(const ObjectAndChild& found, const settings::Settings&
                           const platform::ReadSession& session) {
   IAccessible* const object = found.object.Get();
   const VARIANT& child = found.child.Get();
-  AccessibleFacts facts;
-  facts.location = AccLocation(object, child);
-  facts.name = AccName(object, child);
-  facts.value = AccValue(object, child);
-  facts.role = AccRole(object, child);
-  if (!facts.role.empty()) facts.roleText = GetAccRoleText(object, child);
-  if (const auto state = AccState(object, child)) facts.state = std::to_wstring(*state);
-  facts.stateText = AccStateText(object, child);
-  facts.keyboardShortcut = AccKeyboardShortcut(object, LeftOut());
-  facts.focus = AccFocus(object);
-  facts.defaultAction = AccDefaultAction(object, child);
-  facts.description = AccDescription(object, child);
+  AccessibleFacts facts = ReadMembers(found);
   if (settings.parentChildren == 1) {
     if (const AccessiblePtr parent = AccParent(object)) {
       facts.parentName = AccName(parent.Get(), LeftOut());
@@ -164,6 +153,24 @@ ReportFacts ReadReport(const ReportedWindow& window, const ObjectAndChild& found
 }
 
 }  // namespace
+
+AccessibleFacts ReadMembers(const ObjectAndChild& found) {
+  IAccessible* const object = found.object.Get();
+  const VARIANT& child = found.child.Get();
+  AccessibleFacts facts;
+  facts.location = AccLocation(object, child);
+  facts.name = AccName(object, child);
+  facts.value = AccValue(object, child);
+  facts.role = AccRole(object, child);
+  if (!facts.role.empty()) facts.roleText = GetAccRoleText(object, child);
+  if (const auto state = AccState(object, child)) facts.state = std::to_wstring(*state);
+  facts.stateText = AccStateText(object, child);
+  facts.keyboardShortcut = AccKeyboardShortcut(object, LeftOut());
+  facts.focus = AccFocus(object);
+  facts.defaultAction = AccDefaultAction(object, child);
+  facts.description = AccDescription(object, child);
+  return facts;
+}
 
 bool EdgeOverflows(const AccessibleFacts& object) {
   const auto leaves32Bits = [](std::int32_t start, std::int32_t size) {

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "accessibility/AccessibleListing.h"
-#include "accessibility/ChildWalk.h"
 #include "platform/LineEnd.h"
 #include "platform/TextSink.h"
 
@@ -31,6 +30,15 @@ RowFacts ReadRow(IAccessible* object, const VARIANT& child, std::int32_t accname
   return row;
 }
 
+}  // namespace
+
+RowFacts ReadAncestorRow(IAccessible* ancestor, const VARIANT& child, std::int32_t accnameMax) {
+  RowFacts row = ReadRow(ancestor, Self(), accnameMax);
+  // The name in the column accValue. Odd, and stays: docs/ODDITIES.md.
+  row.last = AccName(ancestor, child);
+  return row;
+}
+
 RowFacts ReadChildRow(IAccessible* object, const VARIANT& child, std::int32_t accnameMax) {
   const AccessiblePtr held = ObjectIn(child);
   IAccessible* const owner = held ? held.Get() : object;
@@ -41,12 +49,9 @@ RowFacts ReadChildRow(IAccessible* object, const VARIANT& child, std::int32_t ac
   return row;
 }
 
-// The object whose children a report lists; empty for a simple element, which has none.
 AccessiblePtr Parent(IAccessible* object, const VARIANT& child) {
   return IsSelf(child) ? AccessiblePtr(object) : ObjectIn(child);
 }
-
-}  // namespace
 
 std::wstring RowText(const RowFacts& row) {
   std::wstring text = L" " + Quoted(row.name) + L"\t" + row.role + L":" + row.roleText + L"\t(" +
@@ -65,21 +70,12 @@ std::wstring AncestorRows(IAccessible* object, const VARIANT& child,
   const std::int32_t max = settings.parentChildrenMax;
   if (max == 0) return {};
   std::vector<std::wstring> rows;
-  AccessiblePtr ancestor = IsSelf(child) ? AccParent(object) : AccessiblePtr(object);
   // One more than the largest number. Odd, and stays: docs/ODDITIES.md.
-  for (std::int64_t i = 0; ancestor && i <= max; ++i) {
-    // Parents may form a circle.
-    if (!session.GoesOn(platform::ReadUntil::kCaptureEnds)) {
-      rows.push_back(std::wstring(platform::kInterruptedMark).append(kCrLf));
-      break;
-    }
-    RowFacts row = ReadRow(ancestor.Get(), Self(), settings.accnameMax);
-    // The name in the column accValue. Odd, and stays: docs/ODDITIES.md.
-    row.last = AccName(ancestor.Get(), child);
-    rows.push_back(RowText(row));
-    session.yield();
-    ancestor = AccParent(ancestor.Get());
-  }
+  const bool interrupted =
+      ForEachAncestor(object, child, std::int64_t{max} + 1, session, [&](IAccessible* ancestor) {
+        rows.push_back(RowText(ReadAncestorRow(ancestor, child, settings.accnameMax)));
+      });
+  if (interrupted) rows.push_back(std::wstring(platform::kInterruptedMark).append(kCrLf));
   std::wstring text;
   for (const std::wstring& row : std::views::reverse(rows)) text += row;
   return text;
@@ -87,20 +83,15 @@ std::wstring AncestorRows(IAccessible* object, const VARIANT& child,
 
 std::wstring ChildRows(IAccessible* object, const VARIANT& child,
                        const settings::Settings& settings, const platform::ReadSession& session) {
-  const AccessiblePtr parent = Parent(object, child);
-  if (!parent) return {};
   std::wstring text;
-  std::int32_t listed = 0;
-  ChildWalk walk(parent.Get(), settings.parentChildrenMax);
-  while (const VARIANT* const next = walk.Next()) {
-    if (!session.GoesOn(platform::ReadUntil::kCaptureEnds)) {
-      return text.append(platform::kInterruptedMark);
-    }
-    if (listed >= settings.parentChildrenMax) {
-      return text.append(platform::kRestOmittedLine).append(kCrLf);
-    }
-    text += RowText(ReadChildRow(parent.Get(), *next, settings.accnameMax));
-    session.Step(std::to_wstring(++listed));
+  const auto ended = ForEachChild(object, child, settings.parentChildrenMax, session,
+                                  [&](IAccessible* parent, const VARIANT& next) {
+                                    text +=
+                                        RowText(ReadChildRow(parent, next, settings.accnameMax));
+                                  });
+  if (ended == platform::Ending::kInterrupted) text.append(platform::kInterruptedMark);
+  if (ended == platform::Ending::kRestOmitted) {
+    text.append(platform::kRestOmittedLine).append(kCrLf);
   }
   return text;
 }

@@ -6,9 +6,13 @@
 
 #include <oleacc.h>
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
+#include "accessibility/ChildWalk.h"
 #include "accessibility/MyAccessible.h"
+#include "platform/ItemSink.h"
 #include "platform/ReadSession.h"
 #include "settings/Settings.h"
 
@@ -23,6 +27,54 @@ struct RowFacts {
   std::wstring last;      // the last column
   std::wstring typeName;  // for children that are objects
 };
+
+// The row of an ancestor; child is that of the object whose ancestor it is. The last column holds
+// the ancestor's name for it.
+[[gnu::noinline]] RowFacts ReadAncestorRow(IAccessible* ancestor, const VARIANT& child,
+                                           std::int32_t accnameMax);
+
+// The row of a child of object. The last column holds the value; children that are objects show
+// their type.
+[[gnu::noinline]] RowFacts ReadChildRow(IAccessible* object, const VARIANT& child,
+                                        std::int32_t accnameMax);
+
+// The object whose children a report lists; empty for a simple element, which has none.
+AccessiblePtr Parent(IAccessible* object, const VARIANT& child);
+
+// Calls take(ancestor) for the ancestors of the child of object, the nearest first, most of them at
+// most. Returns whether that was interrupted: parents may form a circle.
+template <typename Take>
+bool ForEachAncestor(IAccessible* object, const VARIANT& child, std::int64_t most,
+                     const platform::ReadSession& session, const Take& take) {
+  AccessiblePtr ancestor = IsSelf(child) ? AccParent(object) : AccessiblePtr(object);
+  for (std::int64_t i = 0; ancestor && i < most; ++i) {
+    if (!session.GoesOn(platform::ReadUntil::kCaptureEnds)) return true;
+    take(ancestor.Get());
+    session.yield();
+    ancestor = AccParent(ancestor.Get());
+  }
+  return false;
+}
+
+// Calls take(parent, child) for the children of the object or child, most of them at most. Returns
+// why others are missing.
+template <typename Take>
+std::optional<platform::Ending> ForEachChild(IAccessible* object, const VARIANT& child,
+                                             std::int32_t most,
+                                             const platform::ReadSession& session,
+                                             const Take& take) {
+  const AccessiblePtr parent = Parent(object, child);
+  if (!parent) return std::nullopt;
+  std::int32_t listed = 0;
+  ChildWalk walk(parent.Get(), most);
+  while (const VARIANT* const next = walk.Next()) {
+    if (!session.GoesOn(platform::ReadUntil::kCaptureEnds)) return platform::Ending::kInterrupted;
+    if (listed >= most) return platform::Ending::kRestOmitted;
+    take(parent.Get(), *next);
+    session.Step(std::to_wstring(++listed));
+  }
+  return std::nullopt;
+}
 
 std::wstring RowText(const RowFacts& row);
 

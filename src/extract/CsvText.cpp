@@ -16,6 +16,17 @@ std::wstring_view Take(std::wstring_view& rest, std::wstring_view separator) {
   return part;
 }
 
+void AppendRow(std::wstring_view row, std::wstring& csv) {
+  AppendCell(Take(row, L"\t"), csv);
+  while (row.data() != nullptr) {
+    csv += L',';
+    AppendCell(Take(row, L"\t"), csv);
+  }
+  csv += kCrLf;
+}
+
+}  // namespace
+
 void AppendCell(std::wstring_view cell, std::wstring& csv) {
   if (cell.find_first_of(L",\"\r\n") == cell.npos) {
     csv += cell;
@@ -28,17 +39,6 @@ void AppendCell(std::wstring_view cell, std::wstring& csv) {
   }
   csv += L'"';
 }
-
-void AppendRow(std::wstring_view row, std::wstring& csv) {
-  AppendCell(Take(row, L"\t"), csv);
-  while (row.data() != nullptr) {
-    csv += L',';
-    AppendCell(Take(row, L"\t"), csv);
-  }
-  csv += kCrLf;
-}
-
-}  // namespace
 
 std::wstring ToCsv(std::wstring_view text) {
   std::wstring csv;

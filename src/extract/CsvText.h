@@ -13,4 +13,7 @@ namespace extract {
 // was made until then.
 std::wstring ToCsv(std::wstring_view text);
 
+// Adds one such cell.
+void AppendCell(std::wstring_view cell, std::wstring& csv);
+
 }  // namespace extract

@@ -136,8 +136,12 @@ constexpr Way kWays[] = {
 
 constexpr std::int32_t kCommaSeparated = 1;  // of the setting "listview col"
 
+}  // namespace
+
 // Puts in what the first way that gives a text reads, or what the very first way put in.
-Method TryWays(Category category, const Reading& from, platform::TextSink& sink) {
+extract::Method ReadControlItems(Category category, const ControlRead& read,
+                                 const settings::Settings& settings, platform::ItemSink& sink) {
+  const Reading from{read.hwnd, read.session, read, settings};
   std::optional<Method> first;
   for (const Way& way : kWays) {
     if (way.category != category) continue;
@@ -155,13 +159,11 @@ Method TryWays(Category category, const Reading& from, platform::TextSink& sink)
   return first.value_or(Method{});
 }
 
-}  // namespace
-
 extract::TextReading ReadControl(Category category, const ControlRead& read,
                                  const settings::Settings& settings) {
   platform::TextSink sink;
   extract::TextReading reading;
-  reading.method = TryWays(category, {read.hwnd, read.session, read, settings}, sink);
+  reading.method = ReadControlItems(category, read, settings, sink);
   reading.whole = sink.Whole();
   reading.restOmitted = sink.Ended() == platform::Ending::kRestOmitted;
   reading.text = sink.Take();

@@ -5,7 +5,9 @@
 
 #include <string_view>
 
+#include "extract/ItemReading.h"
 #include "extract/TextReading.h"
+#include "platform/ItemSink.h"
 #include "platform/ReadPoint.h"
 #include "platform/ReadSession.h"
 #include "report/ControlCategory.h"
@@ -25,5 +27,10 @@ struct ControlRead {
 // tried; when none does, the result is that of the first.
 extract::TextReading ReadControl(Category category, const ControlRead& read,
                                  const settings::Settings& settings);
+
+// The same, item by item into a sink. Returns the method.
+[[gnu::noinline]] extract::Method ReadControlItems(Category category, const ControlRead& read,
+                                                   const settings::Settings& settings,
+                                                   platform::ItemSink& sink);
 
 }  // namespace report

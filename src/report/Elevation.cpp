@@ -1,14 +1,11 @@
 #include "report/Elevation.h"
 
-#include <optional>
-
 #include "platform/UniqueHandle.h"
 
 namespace report {
-namespace {
 
-// Nothing when the process cannot be asked. A process of this user whose token may not be read runs
-// as administrator: that is what keeps others out.
+// A process of this user whose token may not be read runs as administrator: that is what keeps
+// others out.
 std::optional<bool> IsElevated(HANDLE process) {
   HANDLE opened = nullptr;
   if (!OpenProcessToken(process, TOKEN_QUERY, &opened)) {
@@ -22,8 +19,6 @@ std::optional<bool> IsElevated(HANDLE process) {
   }
   return elevation.TokenIsElevated != 0;
 }
-
-}  // namespace
 
 bool RunsAboveThisProgram(HWND hwnd) {
   if (IsElevated(GetCurrentProcess()).value_or(true)) return false;

@@ -14,7 +14,8 @@ namespace {
 
 class SystemReaders : public ReportReaders {
  public:
-  explicit SystemReaders(const settings::Settings& settings) : settings_(settings) {}
+  SystemReaders(const settings::Settings& settings, MyInternetexplore::BrowserCalls& calls)
+      : settings_(settings), messages_(calls), browser_{calls, messages_, &description_} {}
 
   bool IsHung(HWND hwnd) override { return IsHungAppWindow(hwnd) != FALSE; }
   bool IsOutOfReach(HWND hwnd) override { return RunsAboveThisProgram(hwnd); }
@@ -60,16 +61,16 @@ class SystemReaders : public ReportReaders {
 
  private:
   const settings::Settings& settings_;
-  MyInternetexplore::BoundedMessages messages_{MyInternetexplore::SystemBrowserCalls()};
+  MyInternetexplore::BoundedMessages messages_;
   MyInternetexplore::InterfaceDescription description_;
-  const MyInternetexplore::BrowserAccess browser_{MyInternetexplore::SystemBrowserCalls(),
-                                                  messages_, &description_};
+  const MyInternetexplore::BrowserAccess browser_;
 };
 
 }  // namespace
 
-std::unique_ptr<ReportReaders> MakeSystemReaders(const settings::Settings& settings) {
-  return std::make_unique<SystemReaders>(settings);
+std::unique_ptr<ReportReaders> MakeSystemReaders(const settings::Settings& settings,
+                                                 MyInternetexplore::BrowserCalls& calls) {
+  return std::make_unique<SystemReaders>(settings, calls);
 }
 
 }  // namespace report

@@ -3,10 +3,14 @@
 
 #include <memory>
 
+#include "browser/BrowserCalls.h"
 #include "report/ReportReaders.h"
 
 namespace report {
 
-std::unique_ptr<ReportReaders> MakeSystemReaders(const settings::Settings& settings);
+// settings and calls, by which pages are reached, must outlive them.
+std::unique_ptr<ReportReaders> MakeSystemReaders(
+    const settings::Settings& settings,
+    MyInternetexplore::BrowserCalls& calls = MyInternetexplore::SystemBrowserCalls());
 
 }  // namespace report

@@ -51,6 +51,7 @@ int main(int count, char** words) {
       {"start-up", 2.0, bench::MeasureStartUp},
       {"idle processor time", 1.3, [] { return bench::MeasureProcessorTime(false); }},
       {"resting capture processor time", 1.3, [] { return bench::MeasureProcessorTime(true); }},
+      {"call of VelmoraText, 1000 rows", 1.3, bench::MeasureTextCall},
       {"latency over Notepad, bare loop", 1.5, [] { return bench::MeasureLatency(); }},
       {"latency over Notepad, 40 ms at the median", 1.0, bench::LatencyAtTheMedian},
       {"latency over Notepad, 80 ms at the 99th percentile", 1.0, bench::LatencyAtTheEnd},

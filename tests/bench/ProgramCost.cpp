@@ -4,7 +4,10 @@
 
 #include <chrono>
 #include <filesystem>
+#include <stdexcept>
+#include <string>
 
+#include "ListFixture.h"
 #include "ProcessorTime.h"
 #include "Yardstick.h"
 #include "driver/ChildProcess.h"
@@ -37,6 +40,18 @@ double StartUpTime(const std::filesystem::path& program, const wchar_t* windowCl
   }
 }
 
+// From the start of the process to its end. Throws when it writes less than the rows.
+double CallTime(const std::filesystem::path& program, const std::string& arguments) {
+  constexpr std::size_t kLeast = 10'000;
+  const auto start = Clock::now();
+  gui::ChildProcess process(program, arguments, program.parent_path(),
+                            gui::ChildProcess::Output::kRead);
+  while (!process.WaitForExit(gui::Milliseconds(1))) process.ReadOutput();
+  const double time = MillisecondsSince(start);
+  if (process.ReadOutput().size() < kLeast) throw std::runtime_error("the rows are not read");
+  return time;
+}
+
 }  // namespace
 
 std::vector<Pair> MeasureStartUp() {
@@ -49,6 +64,20 @@ std::vector<Pair> MeasureStartUp() {
     const double ours = StartUpTime(program, L"frmQuorvinFromPoint");
     const double theirs = StartUpTime(yardstick, L"BenchEmptyWindow");
     if (i > 0) pairs.push_back({ours, theirs});  // the first start fills the caches
+  }
+  return pairs;
+}
+
+std::vector<Pair> MeasureTextCall() {
+  const std::filesystem::path program = gui::PackageFolder() / "VelmoraText.exe";
+  const std::filesystem::path yardstick = Yardstick(L"bench_bare_text.exe");
+  const cross::ListFixture fixture(cross::Bits::k32, "rows=many:1000");
+  const std::string handle = std::to_string(reinterpret_cast<INT_PTR>(fixture["rows"]));
+  std::vector<Pair> pairs;
+  for (int i = 0; i <= kStarts; ++i) {
+    const double ours = CallTime(program, "--window " + handle);
+    const double theirs = CallTime(yardstick, handle);
+    if (i > 0) pairs.push_back({ours, theirs});
   }
   return pairs;
 }

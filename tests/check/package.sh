@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# The zip for users contains one folder with the program, its help and a readme for Notepad.
+# The zip for users contains one folder with both programs, their help and a readme for Notepad.
 #
-#   package.sh ZIP PROGRAM SOURCE_FOLDER
+#   package.sh ZIP PROGRAM TEXT_PROGRAM SOURCE_FOLDER
 set -euo pipefail
 export LC_ALL=C.UTF-8
 
-readonly zip=$1 program=$2 source=$3
+readonly zip=$1 program=$2 text_program=$3 source=$4
 readonly largest=$((1024 * 1024))
 
 status=0
@@ -18,7 +18,7 @@ unpacked=$(mktemp -d)
 trap 'rm -rf "$unpacked"' EXIT
 
 expected=$(
-  printf 'Velmora/%s\n' Readme.txt Velmora.exe
+  printf 'Velmora/%s\n' Readme.txt Velmora.exe VelmoraText.exe
   cd "$source/resources" && find help -type f -printf 'Velmora/%p\n'
 )
 held=$(cmake -E tar tf "$zip" | grep -v '/$')
@@ -34,6 +34,7 @@ size=$(stat -c %s "$zip")
 (cd "$unpacked" && cmake -E tar xf "$zip")
 
 cmp "$program" "$unpacked/Velmora/Velmora.exe" || complain "holds another program"
+cmp "$text_program" "$unpacked/Velmora/VelmoraText.exe" || complain "holds another text program"
 diff -r "$source/resources/help" "$unpacked/Velmora/help" || complain "holds another help"
 
 readonly readme=$unpacked/Velmora/Readme.txt

@@ -59,8 +59,8 @@ TEST_F(PackageTest, WorksInAFolderWithBlanksAndJapaneseCharacters) {
   Program program;
   ASSERT_THAT(ToUtf8(program.Folder().wstring()), testing::HasSubstr("列取得 の 試験"));
   const std::set<std::string> unpacked = {
-      "Readme.txt",           "Velmora.exe",     "help",          "help/images",
-      "help/images/main.png", "help/index.html", "help/style.css"};
+      "Readme.txt",  "Velmora.exe",          "VelmoraText.exe", "help",
+      "help/images", "help/images/main.png", "help/index.html", "help/style.css"};
   ASSERT_EQ(NamesIn(program.Folder()), unpacked);
 
   Use(program);

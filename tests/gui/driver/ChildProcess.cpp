@@ -43,14 +43,14 @@ ChildProcess::ChildProcess(const std::filesystem::path& program, std::string_vie
   STARTUPINFOW start = {};
   start.cb = sizeof start;
   Pipe pipe;
-  if (output == Output::kRead) {
+  if (output != Output::kIgnored) {
     pipe = CreateOutputPipe();
     start.dwFlags = STARTF_USESTDHANDLES;
-    start.hStdOutput = pipe.writeEnd.get();
+    (output == Output::kRead ? start.hStdOutput : start.hStdError) = pipe.writeEnd.get();
   }
   // Suspended, so that it cannot start a process of its own before it belongs to the job.
   PROCESS_INFORMATION started = {};
-  if (!CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, output == Output::kRead,
+  if (!CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, output != Output::kIgnored,
                       CREATE_SUSPENDED, nullptr, folder.c_str(), &start, &started)) {
     throw std::runtime_error("cannot start " + program.string() + ", error " +
                              std::to_string(GetLastError()));

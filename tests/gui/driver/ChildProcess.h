@@ -16,7 +16,7 @@ namespace gui {
 // reason, the system ends them too. Destruction ends the process by force.
 class ChildProcess {
  public:
-  enum class Output { kIgnored, kRead };
+  enum class Output { kIgnored, kRead, kReadErrors };
 
   // Throws std::runtime_error when the process cannot be started.
   ChildProcess(const std::filesystem::path& program, std::string_view arguments,
@@ -32,7 +32,8 @@ class ChildProcess {
   // The exit code, or nothing when the process still runs at the deadline.
   std::optional<DWORD> WaitForExit(Milliseconds deadline = kPatience) const;
 
-  // What the process has written to its standard output so far. Needs Output::kRead.
+  // What the process has written so far: to its standard output with Output::kRead, to its standard
+  // error with kReadErrors.
   const std::string& ReadOutput();
 
   // Ends the process at once, with exit code 99.

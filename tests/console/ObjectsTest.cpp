@@ -1,0 +1,76 @@
+// Accessible objects and pages of other programs as JSON, well-behaved and hostile.
+#include <windows.h>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <string>
+
+#include "TextProgram.h"
+#include "accessible/FixtureProcess.h"
+#include "browser/BrowserProcess.h"
+#include "driver/GuiTest.h"
+
+namespace console {
+namespace {
+
+using testing::AnyOf;
+using testing::HasSubstr;
+using testing::Not;
+
+class ObjectsTest : public gui::GuiTest {};
+
+TEST_F(ObjectsTest, TheObjectAtAPointHasItsMembersAncestorsAndChildren) {
+  const accessible::FixtureProcess fixture("place=40,40,400,300 fruit");
+  const Ran ran = RunText("--at 70,70 --json");
+  EXPECT_EQ(ran.code, 0U);
+  EXPECT_THAT(ran.output, HasSubstr(R"("point":{"x":70,"y":70})"));
+  EXPECT_THAT(ran.output, HasSubstr(R"("object":{"name":")"));
+  EXPECT_THAT(ran.output, HasSubstr("林檎"));
+  EXPECT_THAT(ran.output, HasSubstr("果物の窓"));
+}
+
+TEST_F(ObjectsTest, ANamedWindowHasItsOwnObject) {
+  const accessible::FixtureProcess fixture("place=40,40,400,300 objects=3");
+  const Ran ran = RunText(OfWindow(fixture.Window()) + " --json");
+  EXPECT_EQ(ran.code, 0U);
+  EXPECT_THAT(ran.output, HasSubstr(R"("children":[{"name":"物1",)"));
+  EXPECT_THAT(ran.output, HasSubstr(R"("rows":[["物1"],["物2"],["物3"]])"));
+  EXPECT_THAT(ran.output, HasSubstr(R"("childrenComplete":true)"));
+  const Ran first = RunText(OfWindow(fixture.Window()) + " --json --most 2");
+  EXPECT_THAT(first.output, HasSubstr(R"("complete":false)"));
+  EXPECT_THAT(first.output, HasSubstr(R"("childrenComplete":false)"));
+  EXPECT_THAT(first.output, Not(HasSubstr("物3")));
+}
+
+TEST_F(ObjectsTest, NoHostileObjectKeepsTheProgramLongerThanItsTime) {
+  for (const std::string scene :
+       {"cycle", "endless", "claims", "huge", "codes", "roleless", "overflow", "dies"}) {
+    SCOPED_TRACE(scene);
+    const accessible::FixtureProcess fixture("place=40,40,400,300 " + scene);
+    const auto start = std::chrono::steady_clock::now();
+    const Ran ran = RunText(OfWindow(fixture.Window()) + " --json --timeout 3");
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(6));
+    if (scene == "dies") {
+      EXPECT_EQ(ran.code, 3U);
+    } else {
+      EXPECT_THAT(ran.code, AnyOf(0U, 1U, 5U));
+    }
+    // Whole, or nothing.
+    EXPECT_EQ(ran.output.ends_with("}\r\n"), ran.code == 0 || ran.code == 1) << ran.code;
+  }
+}
+
+TEST_F(ObjectsTest, APageHasItsAddressAndTheElementsAroundThePoint) {
+  const html::BrowserProcess browser("place=40,40,400,300 fruit");
+  const Ran ran = RunText("--at 100,130 --json");
+  EXPECT_EQ(ran.code, 0U);
+  EXPECT_THAT(ran.output, HasSubstr(R"("page":{"url":"http://kudamono.example/一覧.html")"));
+  EXPECT_THAT(ran.output, HasSubstr(R"("chain":[{"tag":"HTML",)"));
+  EXPECT_THAT(ran.output, HasSubstr(R"({"tag":"LI",)"));
+  EXPECT_EQ(RunText("--at 100,130").output, "蜜柑\r\n");
+}
+
+}  // namespace
+}  // namespace console
