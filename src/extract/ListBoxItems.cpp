@@ -45,9 +45,7 @@ bool IsDataSize(std::int32_t length) { return length == 4 || length == 8; }
 
 // Whether the text message gives a value of the owner's in place of a text.
 bool GivesData(const ListKind& kind, HWND hwnd, ControlMessages& messages) {
-  // An extended combo box passes the messages on to the combo box in it, which it draws.
-  const HWND inner = FindWindowExW(hwnd, nullptr, L"ComboBox", nullptr);
-  const DWORD style = messages.StyleOf(inner == nullptr ? hwnd : inner);
+  const DWORD style = messages.StyleOf(hwnd);
   return (style & kind.ownerDrawn) != 0 && (style & kind.hasTexts) == 0;
 }
 

@@ -13,6 +13,7 @@
 #include "Reading.h"
 #include "driver/Holdings.h"
 #include "driver/Text.h"
+#include "report/ControlReading.h"
 
 namespace cross {
 namespace {
@@ -101,6 +102,38 @@ INSTANTIATE_TEST_SUITE_P(Controls, SecondWaysTest,
                          [](const auto& test) {
                            return std::string(std::get<1>(test.param)) +
                                   (std::get<0>(test.param) == Bits::k64 ? "64" : "32");
+                         });
+
+// The combo box in it, and the extended one around, as a report reads them.
+class ComboBoxExTest : public testing::TestWithParam<Bits> {
+ protected:
+  static std::wstring Report(HWND hwnd) {
+    settings::Settings settings;
+    settings.parentChildrenMax = 10;
+    const platform::ReadSession session{hwnd, [](const std::wstring&) {}, [] {},
+                                        [] { return true; }};
+    wchar_t className[100] = {};
+    GetClassNameW(hwnd, className, 100);
+    return report::ReadControl(report::Category::ComboBox, {hwnd, className, {}, session}, settings)
+        .text;
+  }
+};
+
+TEST_P(ComboBoxExTest, GivesItsTextsInAReport) {
+  if (GetParam() == Bits::k64 && !SystemHas64Bits()) {
+    GTEST_SKIP() << "this system runs 32-bit programs only";
+  }
+  const ListFixture fixture(GetParam(), "comboex=japanese");
+  const std::string expected = gui::ToUtf8(ExpectedText("comboex", Contents(L"japanese")));
+  EXPECT_EQ(gui::ToUtf8(Report(fixture["comboex"])), expected);
+  const HWND inner = FindWindowExW(fixture["comboex"], nullptr, L"ComboBox", nullptr);
+  ASSERT_NE(inner, nullptr);
+  EXPECT_EQ(gui::ToUtf8(Report(inner)), expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(SecondWaysTest, ComboBoxExTest, testing::Values(Bits::k32, Bits::k64),
+                         [](const auto& test) {
+                           return test.param == Bits::k64 ? "comboex64" : "comboex32";
                          });
 
 // What is left behind after 500 readings, here and in the target.
