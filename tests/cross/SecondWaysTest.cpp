@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <cstdio>
+#include <iterator>
 #include <string>
 #include <tuple>
 
@@ -149,7 +150,8 @@ TEST(SecondWaysEnduranceTest, FiveHundredReadingsLeaveNothingBehind) {
   for (int i = 0; i < 5; ++i) readAll();
   const gui::Holdings own = gui::OwnHoldings();
   const gui::Holdings target = gui::HoldingsOf(fixture.Process().Handle());
-  for (int i = 0; i < 500; ++i) readAll();
+  int readings = 0;
+  for (; readings < 500; readings += static_cast<int>(std::size(kKinds))) readAll();
   const gui::Holdings ownNow = gui::OwnHoldings();
   const gui::Holdings targetNow = gui::HoldingsOf(fixture.Process().Handle());
   std::printf("here | before: %s | after: %s\n", own.Text().c_str(), ownNow.Text().c_str());
