@@ -32,7 +32,7 @@ struct AccessibleFacts {
 };
 
 // The members of the object itself, without what its parent and its children say.
-[[gnu::noinline]] AccessibleFacts ReadMembers(const ObjectAndChild& found);
+AccessibleFacts ReadMembers(const ObjectAndChild& found);
 
 // The window whose object is reported; without hwnd it is the object at the point.
 struct ReportedWindow {

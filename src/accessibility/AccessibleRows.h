@@ -30,13 +30,11 @@ struct RowFacts {
 
 // The row of an ancestor; child is that of the object whose ancestor it is. The last column holds
 // the ancestor's name for it.
-[[gnu::noinline]] RowFacts ReadAncestorRow(IAccessible* ancestor, const VARIANT& child,
-                                           std::int32_t accnameMax);
+RowFacts ReadAncestorRow(IAccessible* ancestor, const VARIANT& child, std::int32_t accnameMax);
 
 // The row of a child of object. The last column holds the value; children that are objects show
 // their type.
-[[gnu::noinline]] RowFacts ReadChildRow(IAccessible* object, const VARIANT& child,
-                                        std::int32_t accnameMax);
+RowFacts ReadChildRow(IAccessible* object, const VARIANT& child, std::int32_t accnameMax);
 
 // The object whose children a report lists; empty for a simple element, which has none.
 AccessiblePtr Parent(IAccessible* object, const VARIANT& child);

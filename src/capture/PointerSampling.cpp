@@ -14,8 +14,6 @@ POINT Shifted(POINT point, const settings::Settings& set) {
           platform::ClampToInt32(std::int64_t{point.y} + set.shifty)};
 }
 
-bool SamePoint(POINT a, POINT b) { return a.x == b.x && a.y == b.y; }
-
 }  // namespace
 
 platform::ReadPoint PointToRead(const CaptureState& state) {
@@ -35,7 +33,7 @@ void SamplePointer(const CaptureContext& context) {
   const POINT before = std::exchange(state.CapturePoint, Shifted(shown, context.settings));
   const HWND given = system.WindowAt(state.CapturePoint);
   // While pointer and window stay, nothing more is asked.
-  if (given != state.GivenWindow || !SamePoint(before, state.CapturePoint)) {
+  if (given != state.GivenWindow || !platform::SamePoint(before, state.CapturePoint)) {
     state.TargetWindow = system.WindowMeant(given, state.CapturePoint);
     state.GivenWindow = given;
   }

@@ -1,17 +1,12 @@
 #include "capture/RestTracker.h"
 
 #include "capture/CaptureState.h"
+#include "platform/ReadPoint.h"
 
 namespace capture {
-namespace {
-
-bool SamePoint(POINT a, POINT b) { return a.x == b.x && a.y == b.y; }
-
-}  // namespace
-
 std::int32_t RestTracker::Observe(POINT point, std::optional<std::uint32_t> nowTick,
                                   std::uint32_t lastReportTick, std::int32_t reportState) {
-  if (!nowTick || !savedPoint_ || !SamePoint(point, *savedPoint_)) {
+  if (!nowTick || !savedPoint_ || !platform::SamePoint(point, *savedPoint_)) {
     savedPoint_ = point;
     stillSinceTick_ = nowTick;
     return kMoved;

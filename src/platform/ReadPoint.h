@@ -5,6 +5,8 @@
 
 namespace platform {
 
+constexpr bool SamePoint(POINT a, POINT b) { return a.x == b.x && a.y == b.y; }
+
 struct ReadPoint {
   POINT at;  // screen pixels
 

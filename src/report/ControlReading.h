@@ -29,8 +29,7 @@ extract::TextReading ReadControl(Category category, const ControlRead& read,
                                  const settings::Settings& settings);
 
 // The same, item by item into a sink. Returns the method.
-[[gnu::noinline]] extract::Method ReadControlItems(Category category, const ControlRead& read,
-                                                   const settings::Settings& settings,
-                                                   platform::ItemSink& sink);
+extract::Method ReadControlItems(Category category, const ControlRead& read,
+                                 const settings::Settings& settings, platform::ItemSink& sink);
 
 }  // namespace report

@@ -13,6 +13,6 @@ bool RunsAboveThisProgram(HWND hwnd);
 
 // Whether that process runs as administrator; nothing when that cannot be found out. A process
 // whose rights may not be read counts as one.
-[[gnu::noinline]] std::optional<bool> IsElevated(HANDLE process);
+std::optional<bool> IsElevated(HANDLE process);
 
 }  // namespace report
