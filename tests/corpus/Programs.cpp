@@ -9,6 +9,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "Installer.h"
 #include "TargetRoom.h"
 #include "WindowTexts.h"
 #include "driver/Control.h"
@@ -37,12 +38,12 @@ struct Row {
 };
 
 constexpr Row kRows[] = {
-    {"InstallerWelcome", "", "welcome", "#32770", 5, 200},
-    {"InstallerLicence", "", "licence", "#32770", 8, 6000},
-    {"InstallerComponents", "", "components", "#32770", 8, 150},
-    {"InstallerFolder", "", "folder", "#32770", 8, 100},
-    {"InstallerChoices", "", "choices", "#32770", 12, 500},
-    {"InstallerLog", "", "log", "#32770", 5, 5000},
+    {"InstallerWelcome", "", "welcome", kInstallerClass, 5, 200},
+    {"InstallerLicence", "", "licence", kInstallerClass, 8, 6000},
+    {"InstallerComponents", "", "components", kInstallerClass, 8, 150},
+    {"InstallerFolder", "", "folder", kInstallerClass, 8, 100},
+    {"InstallerChoices", "", "choices", kInstallerClass, 12, 500},
+    {"InstallerLog", "", "log", kInstallerClass, 5, 5000},
     {"Notepad", "notepad.exe", "<licence>", "Notepad", 3, 6000},
     {"RegistryEditor", "regedit.exe", "", "RegEdit_RegEdit", 4, 300, Kinds::kSystemsOwn},
     {"TaskManager", "taskmgr.exe", "", "#32770", 5, 100},
@@ -56,12 +57,6 @@ constexpr Row kRows[] = {
     {"ControlPanel", "control.exe", "", "", 1, 10},
     {"Browser", "Internet Explorer\\iexplore.exe", "", "IEFrame", 2, 10},
 };
-
-std::filesystem::path LicenceFile() { return gui::FromBuildPath(CORPUS_LICENCE_FILE); }
-
-std::filesystem::path InstallerFile(Bits bits) {
-  return gui::FromBuildPath(bits == Bits::k64 ? CORPUS_INSTALLER64_FILE : CORPUS_INSTALLER_FILE);
-}
 
 std::filesystem::path FolderOf(const wchar_t* variable) {
   std::array<wchar_t, MAX_PATH> text{};
@@ -81,24 +76,17 @@ std::filesystem::path SystemProgram(const ProgramCase& program) {
   throw std::runtime_error("no such program: " + program.file);
 }
 
-std::filesystem::path FileOf(const ProgramCase& program) {
-  return program.file.empty() ? InstallerFile(program.bits) : SystemProgram(program);
-}
-
 std::string ArgumentsOf(const ProgramCase& program) {
-  if (program.file.empty()) return "/page=" + program.arguments;
   return program.arguments == "<licence>" ? "\"" + gui::ToUtf8(LicenceFile().wstring()) + "\""
                                           : program.arguments;
 }
 
 std::unique_ptr<gui::ChildProcess> Start(const ProgramCase& program,
                                          const std::filesystem::path& folder) {
-  // For what it unpacks for itself.
-  SetEnvironmentVariableW(L"TEMP", folder.c_str());
-  SetEnvironmentVariableW(L"TMP", folder.c_str());
+  if (program.file.empty()) return StartInstaller(program.bits, program.arguments, folder);
   std::optional<gui::RealSystemFolder> seen;
   if (program.bits == Bits::k64) seen.emplace();
-  return std::make_unique<gui::ChildProcess>(FileOf(program), ArgumentsOf(program), folder);
+  return StartIn(folder, SystemProgram(program), ArgumentsOf(program));
 }
 
 // Whether the windows hold at least the texts of the case.

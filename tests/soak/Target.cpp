@@ -1,6 +1,9 @@
 #include "Target.h"
 
+#include "corpus/Installer.h"
+#include "driver/Paths.h"
 #include "driver/WaitFor.h"
+#include "driver/Windows.h"
 
 // Both calls are the system's own, without a header.
 extern "C" LONG WINAPI NtSuspendProcess(HANDLE process);
@@ -26,7 +29,12 @@ Target::Target(const TargetKind& kind, const Place& place) : kind_(&kind) {
   const std::string words = kDeadline + PlaceWord(place) + kind.words;
   switch (kind.source) {
     case Source::kSystem:
-      StartSystemProgram(place);
+      StartSystemProgram();
+      MoveTo(place);
+      break;
+    case Source::kInstaller:
+      StartInstaller();
+      MoveTo(place);
       break;
     case Source::kFixture:
       StartFixture(words);
@@ -43,11 +51,19 @@ Target::Target(const TargetKind& kind, const Place& place) : kind_(&kind) {
   }
 }
 
-void Target::StartSystemProgram(const Place& place) {
+void Target::StartSystemProgram() {
   program_ = std::make_unique<gui::WineProgram>(kind_->words, "", "");
   process_ = &program_->Process();
   window_ = program_->Window().Handle();
-  // Not all of them can have another size.
+}
+
+void Target::StartInstaller() {
+  installer_ = corpus::StartInstaller(cross::Bits::k32, kind_->words, gui::FreshFolder());
+  process_ = installer_.get();
+  window_ = gui::WaitForWindow(*process_, corpus::kInstallerClass);
+}
+
+void Target::MoveTo(const Place& place) {
   const bool sizes = (GetWindowLongW(window_, GWL_STYLE) & WS_THICKFRAME) != 0;
   SetWindowPos(window_, HWND_TOP, place.left, place.top, place.width, place.height,
                SWP_NOACTIVATE | SWP_ASYNCWINDOWPOS | (sizes ? 0U : UINT{SWP_NOSIZE}));

@@ -11,6 +11,7 @@
 #include "TargetKinds.h"
 #include "accessible/FixtureProcess.h"
 #include "browser/BrowserProcess.h"
+#include "driver/ChildProcess.h"
 #include "driver/Target.h"
 
 namespace soak {
@@ -33,14 +34,19 @@ class Target {
   void Wake();
 
  private:
-  void StartSystemProgram(const Place& place);
+  void StartSystemProgram();
+  void StartInstaller();
   void StartFixture(const std::string& words);
   void StartLists(const std::string& words);
   void StartAccessible(const std::string& words);
   void StartBrowser(const std::string& words);
 
+  // Not all of them can have another size.
+  void MoveTo(const Place& place);
+
   const TargetKind* kind_;
   std::unique_ptr<gui::WineProgram> program_;
+  std::unique_ptr<gui::ChildProcess> installer_;
   std::unique_ptr<gui::Fixture> fixture_;
   std::unique_ptr<cross::ListFixture> lists_;
   std::unique_ptr<accessible::FixtureProcess> accessible_;

@@ -6,12 +6,12 @@
 
 namespace soak {
 
-enum class Source { kSystem, kFixture, kLists, kAccessible, kBrowser };
+enum class Source { kSystem, kInstaller, kFixture, kLists, kAccessible, kBrowser };
 
 struct TargetKind {
   const char* name;  // for reports
   Source source;
-  const char* words;  // the program's file name, or the words of the fixture
+  const char* words;  // the program's file name, the installer's page, or the words of the fixture
   bool mayDie;        // ends by itself when it is read
 };
 
