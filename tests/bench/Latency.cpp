@@ -24,9 +24,6 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr int kStops = 200;
-constexpr double kRestMs = 50;
-constexpr double kMedianMs = 40;
-constexpr double kEndMs = 80;
 constexpr double kPatienceMs = 5000;
 constexpr const char* kTexts[] = {"first", "second"};
 
@@ -100,18 +97,6 @@ std::vector<Pair> MeasureLatency() {
     if (i > 0) pairs.push_back(stop);  // the first one loads what the system needs
   }
   return pairs;
-}
-
-std::vector<Pair> LatencyAtTheMedian() {
-  std::vector<Pair> pairs = MeasureLatency();
-  for (Pair& pair : pairs) pair = {pair.program - kRestMs, kMedianMs};
-  return pairs;
-}
-
-std::vector<Pair> LatencyAtTheEnd() {
-  std::vector<double> figures;
-  for (const Pair& pair : MeasureLatency()) figures.push_back(pair.program - kRestMs);
-  return {{Quantile(figures, 0.99), kEndMs}};
 }
 
 }  // namespace bench

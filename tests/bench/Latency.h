@@ -12,11 +12,4 @@ namespace bench {
 // the text in the program's pane, and in the bare loop's.
 std::vector<Pair> MeasureLatency();
 
-// What the program takes beyond the 50 ms for which the pointer has to rest, as a part of 40 ms:
-// one pair a stop.
-std::vector<Pair> LatencyAtTheMedian();
-
-// The time that 99 of 100 stops do not exceed, beyond these 50 ms, as a part of 80 ms: one pair.
-std::vector<Pair> LatencyAtTheEnd();
-
 }  // namespace bench

@@ -15,21 +15,40 @@ double Quantile(std::vector<double> values, double part) {
   return values[below] * (1 - rest) + values[above] * rest;
 }
 
-Summary Summarise(const std::vector<Pair>& pairs) {
+namespace {
+
+struct Columns {
+  std::vector<double> program;
+  std::vector<double> yardstick;
   std::vector<double> ratios;
-  std::vector<double> figures;
-  for (const Pair& pair : pairs) {
-    ratios.push_back(pair.program / pair.yardstick);
-    figures.push_back(pair.program);
+
+  explicit Columns(const std::vector<Pair>& pairs) {
+    for (const Pair& pair : pairs) {
+      program.push_back(pair.program);
+      yardstick.push_back(pair.yardstick);
+      ratios.push_back(pair.program / pair.yardstick);
+    }
   }
-  return {Quantile(ratios, 0.5), Quantile(figures, 0.5),
-          Quantile(ratios, 0.75) - Quantile(ratios, 0.25)};
+  double Spread() const { return Quantile(ratios, 0.75) - Quantile(ratios, 0.25); }
+};
+
+}  // namespace
+
+Summary SummarisePairs(const std::vector<Pair>& pairs) {
+  const Columns columns(pairs);
+  return {Quantile(columns.ratios, 0.5), Quantile(columns.program, 0.5), columns.Spread()};
+}
+
+Summary SummariseAt(double part, const std::vector<Pair>& pairs) {
+  const Columns columns(pairs);
+  const double figure = Quantile(columns.program, part);
+  return {figure / Quantile(columns.yardstick, part), figure, columns.Spread()};
 }
 
 std::string RowText(const std::string& name, double limit, const Summary& summary) {
   std::ostringstream row;
   row << std::fixed << std::setprecision(2) << name << '\t' << summary.ratio << '\t' << limit
-      << '\t' << summary.median << '\t' << summary.spread;
+      << '\t' << summary.figure << '\t' << summary.spread;
   return row.str();
 }
 

@@ -14,18 +14,22 @@ struct Pair {
 };
 
 struct Summary {
-  double ratio;   // the median of the pairs' ratios
-  double median;  // the median of the program's figures
+  double ratio;
+  double figure;  // of the program
   double spread;  // the distance between the quartiles of the pairs' ratios
 };
 
 // The value below which that part of the values lies, between 0 and 1. values must not be empty.
 double Quantile(std::vector<double> values, double part);
 
-// pairs must not be empty.
-Summary Summarise(const std::vector<Pair>& pairs);
+// The median of the pairs' ratios, and of the program's figures. pairs must not be empty.
+Summary SummarisePairs(const std::vector<Pair>& pairs);
 
-// name, ratio, limit, median, spread, separated by TABs.
+// The figures that this part of the program's, and of the yardstick's, do not exceed, and their
+// ratio. pairs must not be empty.
+Summary SummariseAt(double part, const std::vector<Pair>& pairs);
+
+// name, ratio, limit, figure, spread, separated by TABs.
 std::string RowText(const std::string& name, double limit, const Summary& summary);
 
 }  // namespace bench
