@@ -36,6 +36,8 @@ for line in \
   "PRODUCTVERSION ${version//./, }, 0"; do
   has_line "$line" || complain "its version information lacks: $line"
 done
+grep -q "name=\"\"Velmora\"\" version=\"\"$version.0\"\"" <<<"$resources" ||
+  complain "its manifest has another version than $version.0"
 
 # A row of the icon's table begins with width and height, one byte each in octal; 0 stands for 256.
 sizes=$(sed -nE 's/^ *"\\([0-7]{3})\\\1.*", 1, 32, .*Element no.*/\1/p' <<<"$resources" |
