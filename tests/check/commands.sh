@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The commands in the documents work: their scripts are there, their labels and patterns
-# match a test, and their filters a suite of the program that they belong to. Tests that they name
-# (`SUITE.NAME`, the suite ending with "Test") exist.
+# match a test, and their filters a suite of the program that they belong to. Tests and suites that
+# they name (`SUITE.NAME` and `SUITE`, the suite ending with "Test") exist.
 #
 #   commands.sh FOLDER BUILD TESTS
 #
@@ -63,5 +63,8 @@ defined=$(find "$tests" -name '*.cpp' -exec cat {} + | tr '\n' ' ' |
   sed -E 's/TEST(_F|_P)?\(([^,]+), */\2./' | sort -u)
 for test in $(told '`[A-Za-z0-9]+Test\.[A-Za-z0-9]+`' '^'); do
   grep -qxF "$test" <<<"$defined" || complain "$test: no such test"
+done
+for suite in $(told '`[A-Za-z0-9]+Test`' '^'); do
+  grep -q "^$suite\." <<<"$defined" || complain "$suite: no such suite"
 done
 exit $status
