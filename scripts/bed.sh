@@ -7,7 +7,7 @@
 # COMMAND's exit code. For a shell with a screen:  scripts/bed.sh exec bash
 #   --win64    the prefix of a 64-bit Windows, which runs both kinds of program
 #   --cp1252   also a prefix in code page 1252, for scripts/in-cp1252.sh
-#   --beside   also a second desktop of the same kind, for scripts/beside.sh
+#   --beside   also a second desktop of the same kind, for scripts/on-desktop.sh
 #   --desktop  on the user's own display, windows framed by its window manager
 #   --keep     after COMMAND wait for Enter before ending the bed
 #
