@@ -1,12 +1,12 @@
 #include "FixtureProcess.h"
 
-#include "driver/Paths.h"
+#include "bed/Place.h"
 #include "driver/Text.h"
 
 namespace accessible {
 
 FixtureProcess::FixtureProcess(std::string_view words)
-    : process_(gui::FromBuildPath(ACCESSIBLE_FIXTURE_FILE), words) {}
+    : process_(bed::Place("tests/accessible/accessible_fixture.exe"), words) {}
 
 std::string FixtureProcess::Actions() const {
   wchar_t caption[1024] = {};

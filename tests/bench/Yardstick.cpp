@@ -1,13 +1,9 @@
 #include "Yardstick.h"
 
-#include <windows.h>
+#include "bed/Place.h"
 
 namespace bench {
 
-std::filesystem::path Yardstick(const wchar_t* name) {
-  wchar_t own[MAX_PATH] = {};
-  GetModuleFileNameW(nullptr, own, MAX_PATH);
-  return std::filesystem::path(own).parent_path() / name;
-}
+std::filesystem::path Yardstick(const wchar_t* name) { return bed::Place("tests/bench") / name; }
 
 }  // namespace bench

@@ -1,11 +1,11 @@
 #include "BrowserProcess.h"
 
 #include "Messages.h"
-#include "driver/Paths.h"
+#include "bed/Place.h"
 
 namespace html {
 BrowserProcess::BrowserProcess(std::string_view words)
-    : process_(gui::FromBuildPath(BROWSER_FIXTURE_FILE), words) {}
+    : process_(bed::Place("tests/browser/browser_fixture.exe"), words) {}
 
 gui::Control BrowserProcess::operator[](const std::string& name) const {
   return {process_[name], "the browser fixture's " + name};

@@ -9,7 +9,7 @@
 namespace console {
 namespace {
 
-std::filesystem::path ProgramFile() { return gui::FromBuildPath(CONSOLE_PROGRAM_FILE); }
+std::filesystem::path ProgramFile() { return gui::PackageFolder() / "VelmoraText.exe"; }
 
 }  // namespace
 

@@ -2,11 +2,11 @@
 
 #include <windows.h>
 
-#include "driver/Paths.h"
+#include "bed/Place.h"
 
 namespace corpus {
 
-std::filesystem::path LicenceFile() { return gui::FromBuildPath(CORPUS_LICENCE_FILE); }
+std::filesystem::path LicenceFile() { return bed::Place("tests/corpus/licence.txt"); }
 
 std::unique_ptr<gui::ChildProcess> StartIn(const std::filesystem::path& folder,
                                            const std::filesystem::path& file,
@@ -18,8 +18,10 @@ std::unique_ptr<gui::ChildProcess> StartIn(const std::filesystem::path& folder,
 
 std::unique_ptr<gui::ChildProcess> StartInstaller(cross::Bits bits, const std::string& page,
                                                   const std::filesystem::path& folder) {
-  const char* file = bits == cross::Bits::k64 ? CORPUS_INSTALLER64_FILE : CORPUS_INSTALLER_FILE;
-  return StartIn(folder, gui::FromBuildPath(file), "/page=" + page);
+  return StartIn(folder,
+                 bed::Place(bits == cross::Bits::k64 ? "tests/corpus/installer-amd64.exe"
+                                                     : "tests/corpus/installer-x86.exe"),
+                 "/page=" + page);
 }
 
 }  // namespace corpus

@@ -1,6 +1,6 @@
 #include "ListFixture.h"
 
-#include "driver/Paths.h"
+#include "bed/Place.h"
 
 namespace cross {
 
@@ -10,7 +10,8 @@ bool SystemHas64Bits() {
 }
 
 ListFixture::ListFixture(Bits bits, std::string_view words)
-    : process_(gui::FromBuildPath(bits == Bits::k64 ? CROSS_FIXTURE64_FILE : CROSS_FIXTURE_FILE),
+    : process_(bed::Place(bits == Bits::k64 ? "tests/cross/list_fixture64.exe"
+                                            : "tests/cross/list_fixture.exe"),
                words) {}
 
 }  // namespace cross

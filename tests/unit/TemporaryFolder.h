@@ -6,13 +6,14 @@
 #include <filesystem>
 #include <string>
 
+#include "bed/Place.h"
+
 class TemporaryFolder {
  public:
   TemporaryFolder() {
     static int count = 0;
-    path_ =
-        std::filesystem::temp_directory_path() /
-        (L"velmora " + std::to_wstring(GetCurrentProcessId()) + L" " + std::to_wstring(++count));
+    path_ = bed::Place("scratch") / (L"velmora " + std::to_wstring(GetCurrentProcessId()) + L" " +
+                                     std::to_wstring(++count));
     std::filesystem::create_directories(path_);
   }
   TemporaryFolder(const TemporaryFolder&) = delete;

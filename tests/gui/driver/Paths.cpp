@@ -5,13 +5,10 @@
 #include <algorithm>
 #include <string>
 
-namespace gui {
-std::filesystem::path FromBuildPath(std::string path) {
-  if (path.starts_with('/')) path.insert(0, "Z:");
-  return std::filesystem::path(path).make_preferred();
-}
+#include "bed/Place.h"
 
-std::filesystem::path PackageFolder() { return FromBuildPath(GUI_PACKAGE_FOLDER); }
+namespace gui {
+std::filesystem::path PackageFolder() { return bed::Place("package/unpacked/Velmora"); }
 
 std::filesystem::path ProgramFile() { return PackageFolder() / "Velmora.exe"; }
 
@@ -27,9 +24,9 @@ void CopyPackageTo(const std::filesystem::path& folder) {
   }
 }
 
-std::filesystem::path FixtureFile() { return FromBuildPath(GUI_FIXTURE_FILE); }
+std::filesystem::path FixtureFile() { return bed::Place("tests/fixture/fixture.exe"); }
 
-std::filesystem::path CommandRecorderFile() { return FromBuildPath(GUI_COMMAND_RECORDER_FILE); }
+std::filesystem::path CommandRecorderFile() { return bed::Place("tests/gui/command_recorder.exe"); }
 
 std::string TestName() {
   const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
@@ -40,15 +37,14 @@ std::string TestName() {
 }
 
 std::filesystem::path FreshFolder() {
-  const std::filesystem::path folder =
-      FromBuildPath(GUI_SCRATCH_FOLDER) / L"列取得 の 試験" / TestName();
+  const std::filesystem::path folder = bed::Place("scratch") / L"列取得 の 試験" / TestName();
   std::filesystem::remove_all(folder);
   std::filesystem::create_directories(folder);
   return folder;
 }
 
 std::filesystem::path ScreenshotFolder() {
-  const std::filesystem::path folder = FromBuildPath(GUI_SCREENSHOT_FOLDER);
+  const std::filesystem::path folder = bed::Place("screenshots");
   std::filesystem::create_directories(folder);
   return folder;
 }

@@ -6,9 +6,6 @@
 
 namespace gui {
 
-// The build system writes paths of the build machine, which are on drive Z in Wine.
-std::filesystem::path FromBuildPath(std::string path);
-
 // What users get: the folder of the unpacked package, and the program in it. Not to be run there,
 // where its settings would stay.
 std::filesystem::path PackageFolder();
@@ -24,7 +21,7 @@ std::filesystem::path CommandRecorderFile();
 // blanks and Japanese characters, as users' folders do.
 std::filesystem::path FreshFolder();
 
-// build/<preset>/screenshots, created when missing.
+// Created when missing.
 std::filesystem::path ScreenshotFolder();
 
 // "Suite.Test" of the running test, with characters that no file name can hold replaced.

@@ -39,8 +39,8 @@ class Picture {
 // picture keeps changing.
 Picture PictureWhenPainted(const RECT& rectangle);
 
-// Saves the whole screen as build/<preset>/screenshots/<name>.png and returns that file: as it is
-// now, or once it no longer changes.
+// Saves the whole screen as screenshots/<name>.png and returns that file: as it is now, or once it
+// no longer changes.
 std::filesystem::path SaveScreenshot(const std::string& name);
 std::filesystem::path SaveScreenshotWhenPainted(const std::string& name);
 
