@@ -11,7 +11,8 @@
 #   --desktop  on the user's own display, windows framed by its window manager
 #   --keep     after COMMAND wait for Enter before ending the bed
 #
-# COMMAND finds DISPLAY (1280x1024), WINEPREFIX, LC_ALL and LOCPATH set.
+# COMMAND finds DISPLAY (1280x1024), WINEPREFIX, LC_ALL, LOCPATH and VELMORA_TEST_BED set. In the
+# last one's presence no test may skip for want of something.
 #
 # The bed is in build/bed, or in the folder that VELMORA_BED names. One bed runs one command at a
 # time, a second one waits; with another VELMORA_BED both run at the same time.
@@ -34,6 +35,7 @@ start_locale() {
 }
 
 start_prefixes() {
+  export VELMORA_TEST_BED=1
   export WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,winemenubuilder.exe='
   if [[ $cp1252 == yes ]]; then
     export VELMORA_PREFIX_1252=$bed/prefix32-1252

@@ -18,6 +18,7 @@
 #include "accessibility/AccessibleAction.h"
 #include "accessibility/AccessibleListing.h"
 #include "accessibility/AccessibleReport.h"
+#include "bed/Needs.h"
 #include "driver/Holdings.h"
 #include "platform/ErrorReport.h"
 #include "unit/FakeSession.h"
@@ -289,6 +290,7 @@ TEST_F(AcrossProcessesTest, ServersThatDieEndTheirReportEmpty) {
 }
 
 TEST_F(AcrossProcessesTest, FiveHundredReportsOnHostileServersLeaveNothingBehind) {
+  NEEDS(bed::CountersOfWine());
   constexpr const char* kScenes[] = {"fruit", "cycle",    "claims",   "endless",
                                      "codes", "roleless", "overflow", "huge"};
   constexpr std::size_t kHuge = std::size(kScenes) - 1;

@@ -4,6 +4,7 @@
 
 #include <chrono>
 
+#include "bed/Needs.h"
 #include "capture/ReportComposer.h"
 #include "driver/Pointer.h"
 #include "driver/WaitFor.h"
@@ -25,7 +26,12 @@ PageReport::~PageReport() {
   readers_.reset();
   CoUninitialize();
   platform::SetMessageBox(before_);
-  gui::pointer::Park();
+}
+
+void PageReport::SetUp() { NEEDS(bed::ThePointer()); }
+
+void PageReport::TearDown() {
+  if (!IsSkipped()) gui::pointer::Park();
 }
 
 void PageReport::ReportAt(const BrowserProcess& browser, POINT point, POINT shift) {

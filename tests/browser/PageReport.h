@@ -31,6 +31,8 @@ class PageReport : public testing::Test {
  protected:
   PageReport();
   ~PageReport() override;
+  void SetUp() override;
+  void TearDown() override;
 
   // Moves the pointer to that point of the page, and reads what is there or, with a shift, that far
   // from there. The page's objects are all released afterwards.

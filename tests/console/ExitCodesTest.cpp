@@ -9,7 +9,6 @@
 
 #include "TextProgram.h"
 #include "cross/ListFixture.h"
-#include "driver/GuiTest.h"
 #include "driver/Target.h"
 
 namespace console {
@@ -21,9 +20,7 @@ using gui::Fixture;
 using testing::HasSubstr;
 using testing::StartsWith;
 
-class ExitCodesTest : public gui::GuiTest {};
-
-TEST_F(ExitCodesTest, AReadTextIs0) {
+TEST(ExitCodesTest, AReadTextIs0) {
   const Fixture fixture("title=名簿 static=名札 edit=文");
   const Ran named = RunText(OfWindow(fixture["static"].Handle()));
   EXPECT_EQ(named.code, 0U);
@@ -33,14 +30,14 @@ TEST_F(ExitCodesTest, AReadTextIs0) {
   EXPECT_EQ(found.output, "文\r\n");
 }
 
-TEST_F(ExitCodesTest, NothingThereIs1) {
+TEST(ExitCodesTest, NothingThereIs1) {
   const Fixture fixture("title=t blank");
   const Ran ran = RunText(OfWindow(fixture["blank"].Handle()));
   EXPECT_EQ(ran.code, 1U);
   EXPECT_EQ(ran.output, "");
 }
 
-TEST_F(ExitCodesTest, AWrongArgumentIs2AndNamesItself) {
+TEST(ExitCodesTest, AWrongArgumentIs2AndNamesItself) {
   const Ran unknown = RunText("--jsn", ChildProcess::Output::kReadErrors);
   EXPECT_EQ(unknown.code, 2U);
   EXPECT_THAT(unknown.output, HasSubstr("--jsn"));
@@ -51,21 +48,21 @@ TEST_F(ExitCodesTest, AWrongArgumentIs2AndNamesItself) {
   EXPECT_EQ(RunText("--jsn").output, "");
 }
 
-TEST_F(ExitCodesTest, NoSuchWindowIs3) {
+TEST(ExitCodesTest, NoSuchWindowIs3) {
   EXPECT_EQ(RunText("--window x7FFFFFFE").code, 3U);
   EXPECT_EQ(RunText("--title そのような題のウィンドウはない").code, 3U);
   const Fixture fixture("title=部品なし edit=文");
   EXPECT_EQ(RunText("--title 部品なし --control Edit:2").code, 3U);
 }
 
-TEST_F(ExitCodesTest, AProgramThatDiesMeanwhileIs3) {
+TEST(ExitCodesTest, AProgramThatDiesMeanwhileIs3) {
   cross::ListFixture fixture(cross::Bits::k32, "behave=die listbox=many:50");
   const Ran ran = RunText(OfWindow(fixture["listbox"]));
   EXPECT_EQ(ran.code, 3U);
   EXPECT_EQ(ran.output, "");
 }
 
-TEST_F(ExitCodesTest, AProgramThatDoesNotAnswerIs5) {
+TEST(ExitCodesTest, AProgramThatDoesNotAnswerIs5) {
   const Fixture fixture("title=t edit=文");
   fixture.Hang(gui::Milliseconds(20'000));
   const auto start = Clock::now();
@@ -76,7 +73,7 @@ TEST_F(ExitCodesTest, AProgramThatDoesNotAnswerIs5) {
   EXPECT_LT(Clock::now() - start, std::chrono::seconds(4));
 }
 
-TEST_F(ExitCodesTest, AWindowThatIsKnownToHangIs5AtOnce) {
+TEST(ExitCodesTest, AWindowThatIsKnownToHangIs5AtOnce) {
   const Fixture fixture("title=題 edit=文");
   const HWND main = fixture["main"].Handle();
   fixture.Hang(gui::Milliseconds(30'000));
@@ -93,7 +90,7 @@ TEST_F(ExitCodesTest, AWindowThatIsKnownToHangIs5AtOnce) {
   EXPECT_LT(Clock::now() - start, std::chrono::seconds(4));
 }
 
-TEST_F(ExitCodesTest, HelpAndVersionAre0) {
+TEST(ExitCodesTest, HelpAndVersionAre0) {
   const Ran version = RunText("--version");
   EXPECT_EQ(version.code, 0U);
   EXPECT_THAT(version.output, StartsWith("VelmoraText "));

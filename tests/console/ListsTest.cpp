@@ -8,6 +8,7 @@
 #include <tuple>
 
 #include "TextProgram.h"
+#include "bed/Needs.h"
 #include "cross/ListFixture.h"
 #include "cross/Reading.h"
 #include "driver/Text.h"
@@ -19,11 +20,7 @@ using cross::Bits;
 
 class ListsTest : public testing::TestWithParam<std::tuple<Bits, const char*>> {
  protected:
-  void SetUp() override {
-    if (TargetBits() == Bits::k64 && !cross::SystemHas64Bits()) {
-      GTEST_SKIP() << "this system runs 32-bit programs only";
-    }
-  }
+  void SetUp() override { NEEDS(cross::SystemFor(TargetBits())); }
 
   static Bits TargetBits() { return std::get<0>(GetParam()); }
   static std::string Kind() { return std::get<1>(GetParam()); }

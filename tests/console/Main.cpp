@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <objbase.h>
 
+#include "bed/Run.h"
 #include "driver/GuiTest.h"
 
 int main(int count, char** words) {
@@ -10,5 +11,5 @@ int main(int count, char** words) {
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
   testing::InitGoogleTest(&count, words);
   gui::SaveScreenshotOnFailure();
-  return RUN_ALL_TESTS();
+  return bed::Run();
 }

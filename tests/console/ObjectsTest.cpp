@@ -9,7 +9,6 @@
 #include "TextProgram.h"
 #include "accessible/FixtureProcess.h"
 #include "browser/BrowserProcess.h"
-#include "driver/GuiTest.h"
 
 namespace console {
 namespace {
@@ -17,9 +16,7 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-class ObjectsTest : public gui::GuiTest {};
-
-TEST_F(ObjectsTest, TheObjectAtAPointHasItsMembersAncestorsAndChildren) {
+TEST(ObjectsTest, TheObjectAtAPointHasItsMembersAncestorsAndChildren) {
   const accessible::FixtureProcess fixture("place=40,40,400,300 fruit");
   const Ran ran = RunText("--at 70,70 --json");
   EXPECT_EQ(ran.code, 0U);
@@ -29,7 +26,7 @@ TEST_F(ObjectsTest, TheObjectAtAPointHasItsMembersAncestorsAndChildren) {
   EXPECT_THAT(ran.output, HasSubstr("果物の窓"));
 }
 
-TEST_F(ObjectsTest, ANamedWindowHasItsOwnObject) {
+TEST(ObjectsTest, ANamedWindowHasItsOwnObject) {
   const accessible::FixtureProcess fixture("place=40,40,400,300 objects=3");
   const Ran ran = RunText(OfWindow(fixture.Window()) + " --json");
   EXPECT_EQ(ran.code, 0U);
@@ -42,7 +39,7 @@ TEST_F(ObjectsTest, ANamedWindowHasItsOwnObject) {
   EXPECT_THAT(first.output, Not(HasSubstr("物3")));
 }
 
-TEST_F(ObjectsTest, APageHasItsAddressAndTheElementsAroundThePoint) {
+TEST(ObjectsTest, APageHasItsAddressAndTheElementsAroundThePoint) {
   const html::BrowserProcess browser("place=40,40,400,300 fruit");
   const Ran ran = RunText("--at 100,130 --json");
   EXPECT_EQ(ran.code, 0U);

@@ -9,6 +9,7 @@
 #include "ListFixture.h"
 #include "Pointing.h"
 #include "Programs.h"
+#include "bed/Needs.h"
 #include "driver/Control.h"
 #include "driver/GuiTest.h"
 #include "driver/Pointer.h"
@@ -24,7 +25,7 @@ constexpr char kConf[] =
     "form left = 660\nform top = 40\nform right = 1240\nform bottom = 900\nread whole = 1\n";
 
 std::vector<cross::Bits> BitsOfThisSystem() {
-  if (cross::SystemHas64Bits()) return {cross::Bits::k32, cross::Bits::k64};
+  if (bed::Is64BitSystem()) return {cross::Bits::k32, cross::Bits::k64};
   return {cross::Bits::k32};
 }
 

@@ -10,6 +10,7 @@
 #include "ListFixture.h"
 #include "Pointing.h"
 #include "Verdict.h"
+#include "bed/Needs.h"
 #include "driver/GuiTest.h"
 #include "platform/UniqueHandle.h"
 
@@ -121,8 +122,7 @@ TEST_F(JudgementTest, WhatIsReadOnlyOnRequestIsNamed) {
   fill(L"短い");
   EXPECT_EQ(Judge(list).outcome, Outcome::kWhole);
   fill(std::wstring(300, L'長'));
-  EXPECT_EQ(Judge(list).outcome,
-            cross::SystemHas64Bits() ? Outcome::kWhole : Outcome::kWholeByRequest);
+  EXPECT_EQ(Judge(list).outcome, bed::Is64BitSystem() ? Outcome::kWhole : Outcome::kWholeByRequest);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <objbase.h>
 
 #include "Summary.h"
+#include "bed/Run.h"
 #include "driver/GuiTest.h"
 
 int main(int count, char** words) {
@@ -13,7 +14,7 @@ int main(int count, char** words) {
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
   testing::InitGoogleTest(&count, words);
   gui::SaveScreenshotOnFailure();
-  const int result = RUN_ALL_TESTS();
+  const int result = bed::Run();
   corpus::PrintSummary();
   return result;
 }

@@ -12,6 +12,7 @@
 #include "Installer.h"
 #include "TargetRoom.h"
 #include "WindowTexts.h"
+#include "bed/Needs.h"
 #include "driver/Control.h"
 #include "driver/Paths.h"
 #include "driver/RealSystemFolder.h"
@@ -111,8 +112,8 @@ void PrintTo(const ProgramCase& program, std::ostream* out) { *out << program.na
 std::vector<ProgramCase> ProgramsOfThisSystem() {
   std::vector<ProgramCase> cases;
   for (const Bits bits : {Bits::k32, Bits::k64}) {
-    if (bits == Bits::k64 && !cross::SystemHas64Bits()) continue;
-    const bool own = (bits == Bits::k64) == cross::SystemHas64Bits();
+    if (bits == Bits::k64 && !bed::Is64BitSystem()) continue;
+    const bool own = (bits == Bits::k64) == bed::Is64BitSystem();
     for (const Row& row : kRows) {
       if (row.kinds == Kinds::kSystemsOwn && !own) continue;
       cases.push_back({row.name + std::string(bits == Bits::k64 ? "64" : "32"), row.file,

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <numeric>
 
-#include "ListFixture.h"
+#include "bed/Needs.h"
 
 namespace corpus {
 namespace {
@@ -21,7 +21,7 @@ void Count(Outcome outcome) { ++Counts()[static_cast<std::size_t>(outcome)]; }
 
 void PrintSummary() {
   const auto& counts = Counts();
-  std::printf("corpus in all | %d-bit system | %d windows", cross::SystemHas64Bits() ? 64 : 32,
+  std::printf("corpus in all | %d-bit system | %d windows", bed::Is64BitSystem() ? 64 : 32,
               std::accumulate(counts.begin(), counts.end(), 0));
   for (int i = 0; i < kOutcomes; ++i) {
     std::printf(" | %s %d", NameOf(static_cast<Outcome>(i)), counts[static_cast<std::size_t>(i)]);

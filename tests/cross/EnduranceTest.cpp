@@ -7,6 +7,7 @@
 
 #include "ListFixture.h"
 #include "Reading.h"
+#include "bed/Needs.h"
 #include "driver/Holdings.h"
 
 namespace cross {
@@ -34,6 +35,7 @@ int ReadAll(const ListFixture& lying, bool withAnEnd) {
 // Without the text that is far longer than announced: Wine itself leaks its copy of it when it
 // reaches the end of the buffer.
 TEST(EnduranceTest, FiveHundredReadingsLeaveNothingBehind) {
+  NEEDS(bed::CountersOfWine());
   const ListFixture lying(Bits::k32,
                           "behave=understate listbox=long behave=negative dropdown=many:5 "
                           "behave=change listview=many:3 toolbar=many:3 tabs=many:3");
@@ -42,7 +44,7 @@ TEST(EnduranceTest, FiveHundredReadingsLeaveNothingBehind) {
   const gui::Holdings before = gui::OwnHoldings();
   ASSERT_GT(before.handles, 0);
   // They are counted in a table that a 32-bit program of a 64-bit system does not see.
-  if (!SystemHas64Bits()) {
+  if (!bed::Is64BitSystem()) {
     ASSERT_GT(before.gdiObjects, 0);
   }
   int readings = 0;

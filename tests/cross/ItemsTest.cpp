@@ -11,6 +11,7 @@
 #include "ListFixture.h"
 #include "Reading.h"
 #include "accessible/FixtureProcess.h"
+#include "bed/Needs.h"
 #include "driver/Text.h"
 
 namespace cross {
@@ -18,11 +19,7 @@ namespace {
 
 class ItemsTest : public testing::TestWithParam<std::tuple<Bits, const char*>> {
  protected:
-  void SetUp() override {
-    if (TargetBits() == Bits::k64 && !SystemHas64Bits()) {
-      GTEST_SKIP() << "this system runs 32-bit programs only";
-    }
-  }
+  void SetUp() override { NEEDS(SystemFor(TargetBits())); }
 
   static Bits TargetBits() { return std::get<0>(GetParam()); }
   static std::string Kind() { return std::get<1>(GetParam()); }
@@ -38,7 +35,7 @@ class ItemsTest : public testing::TestWithParam<std::tuple<Bits, const char*>> {
   // One row of the table in the test's output.
   static void Tell(const std::string& set, const Reading& reading) {
     std::printf("%s system | %s target | %-12s | %-10s | %-12s | %s\n",
-                SystemHas64Bits() ? "64-bit" : "32-bit",
+                bed::Is64BitSystem() ? "64-bit" : "32-bit",
                 TargetBits() == Bits::k64 ? "64-bit" : "32-bit", Kind().c_str(), set.c_str(),
                 gui::ToUtf8(reading.method).c_str(), Shown(reading.text).c_str());
   }
@@ -107,12 +104,11 @@ INSTANTIATE_TEST_SUITE_P(ListViews, ItemsTest,
 // List views of a 64-bit system are read through accessibility.
 class AccessibleItemsTest : public ItemsTest {
  protected:
-  void SetUp() override {
-    if (!SystemHas64Bits()) GTEST_SKIP() << "this system runs 32-bit programs only";
-  }
+  void SetUp() override { NEEDS(bed::System64()); }
 };
 
 TEST_P(AccessibleItemsTest, NoMessageIsSentForThem) {
+  NEEDS(bed::ObjectsOfWine());
   const ListFixture fixture(TargetBits(), Kind() + "=japanese");
   const Reading reading = Read(Kind(), fixture[Kind()]);
   Tell("japanese", reading);
@@ -121,7 +117,7 @@ TEST_P(AccessibleItemsTest, NoMessageIsSentForThem) {
 }
 
 TEST(AccessibleItems64Test, TheItemsOfTheObjectAreListed) {
-  if (!SystemHas64Bits()) GTEST_SKIP() << "this system runs 32-bit programs only";
+  NEEDS(bed::System64());
   const accessible::FixtureProcess fixture("place=40,40,300,200 rows=3");
   const Reading reading = Read("listview", fixture.Window());
   EXPECT_EQ(reading.text, L"行1\r\n行2\r\n行3\r\n");

@@ -4,10 +4,7 @@
 
 namespace cross {
 
-bool SystemHas64Bits() {
-  BOOL emulated = FALSE;
-  return IsWow64Process(GetCurrentProcess(), &emulated) && emulated;
-}
+bed::Need SystemFor(Bits bits) { return bits == Bits::k64 ? bed::System64() : bed::Need{true, ""}; }
 
 ListFixture::ListFixture(Bits bits, std::string_view words)
     : process_(bed::Place(bits == Bits::k64 ? "tests/cross/list_fixture64.exe"

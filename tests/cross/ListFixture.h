@@ -6,14 +6,15 @@
 #include <string>
 #include <string_view>
 
+#include "bed/Needs.h"
 #include "driver/FixtureProcess.h"
 
 namespace cross {
 
 enum class Bits { k32, k64 };
 
-// Whether the system under the tests runs 64-bit programs.
-bool SystemHas64Bits();
+// A system that runs such programs.
+bed::Need SystemFor(Bits bits);
 
 class ListFixture {
  public:

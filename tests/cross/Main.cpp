@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 #include <objbase.h>
 
+#include "bed/Run.h"
+
 int main(int count, char** words) {
   // For accessible objects, as in the program.
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
   testing::InitGoogleTest(&count, words);
-  return RUN_ALL_TESTS();
+  return bed::Run();
 }

@@ -10,6 +10,7 @@
 #include "ListFixture.h"
 #include "Reading.h"
 #include "TargetRoom.h"
+#include "bed/Needs.h"
 #include "driver/Owners.h"
 
 namespace cross {
@@ -123,7 +124,7 @@ bool IsIn64BitProcess(HWND window) {
   GetWindowThreadProcessId(window, &processId);
   const gui::OwnedHandle process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, processId));
   BOOL emulated = FALSE;
-  return SystemHas64Bits() && IsWow64Process(process.get(), &emulated) && !emulated;
+  return bed::Is64BitSystem() && IsWow64Process(process.get(), &emulated) && !emulated;
 }
 
 std::wstring ReadOtherwise(const std::string& kind, HWND control) {

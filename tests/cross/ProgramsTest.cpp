@@ -10,6 +10,7 @@
 #include "OtherReading.h"
 #include "Reading.h"
 #include "RegistryKey.h"
+#include "bed/Needs.h"
 #include "driver/Target.h"
 #include "driver/Text.h"
 #include "driver/WaitFor.h"
@@ -50,6 +51,7 @@ bool ReadingsAgree(const std::string& kind, HWND control, Reading& ours, std::ws
 class ProgramsTest : public testing::TestWithParam<ProgramCase> {};
 
 TEST_P(ProgramsTest, EveryControlReadsTheSameInTwoWays) {
+  NEEDS(bed::ProgramsOfWine());
   const ProgramCase& one = GetParam();
   // For the registry editor: the key that it opens at its start, and what it shows there.
   const RegistryKey shown(

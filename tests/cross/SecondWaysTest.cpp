@@ -12,6 +12,7 @@
 
 #include "ListFixture.h"
 #include "Reading.h"
+#include "bed/Needs.h"
 #include "driver/Holdings.h"
 #include "driver/Text.h"
 #include "report/ControlReading.h"
@@ -25,11 +26,7 @@ constexpr const char* kKinds[] = {"rows", "ownerrows", "tree", "header", "status
 
 class SecondWaysTest : public testing::TestWithParam<std::tuple<Bits, const char*>> {
  protected:
-  void SetUp() override {
-    if (TargetBits() == Bits::k64 && !SystemHas64Bits()) {
-      GTEST_SKIP() << "this system runs 32-bit programs only";
-    }
-  }
+  void SetUp() override { NEEDS(SystemFor(TargetBits())); }
   static Bits TargetBits() { return std::get<0>(GetParam()); }
   static std::string Kind() { return std::get<1>(GetParam()); }
 
@@ -121,9 +118,7 @@ class ComboBoxExTest : public testing::TestWithParam<Bits> {
 };
 
 TEST_P(ComboBoxExTest, GivesItsTextsInAReport) {
-  if (GetParam() == Bits::k64 && !SystemHas64Bits()) {
-    GTEST_SKIP() << "this system runs 32-bit programs only";
-  }
+  NEEDS(SystemFor(GetParam()));
   const ListFixture fixture(GetParam(), "comboex=japanese");
   const std::string expected = gui::ToUtf8(ExpectedText("comboex", Contents(L"japanese")));
   EXPECT_EQ(gui::ToUtf8(Report(fixture["comboex"])), expected);
@@ -139,6 +134,7 @@ INSTANTIATE_TEST_SUITE_P(SecondWaysTest, ComboBoxExTest, testing::Values(Bits::k
 
 // What is left behind after 500 readings, here and in the target.
 TEST(SecondWaysEnduranceTest, FiveHundredReadingsLeaveNothingBehind) {
+  NEEDS(bed::CountersOfWine());
   std::string words;
   for (const char* const kind : kKinds) words += std::string(kind) + "=wide ";
   ListFixture fixture(Bits::k32, words);

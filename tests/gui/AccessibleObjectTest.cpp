@@ -8,6 +8,7 @@
 
 #include "DialogWindow.h"
 #include "accessible/FixtureProcess.h"
+#include "bed/Needs.h"
 #include "driver/GuiTest.h"
 #include "driver/Keys.h"
 #include "driver/Pointer.h"
@@ -217,6 +218,7 @@ TEST_F(AccessibleObjectTest, WithoutAnActionTestTheKeyDoesNothing) {
 
 // The objects of Wine's own controls have no actions.
 TEST_F(AccessibleObjectTest, AFailedActionIsShownInABoxWithAnOkButton) {
+  NEEDS(bed::ProgramsOfWine());
   const WineProgram notepad("notepad.exe", "", "Notepad");
   notepad.MoveTo(30, 30, 560, 420);
   const FixtureProcess fruit("place=40,500,400,300 fruit");
@@ -248,6 +250,7 @@ TEST_F(AccessibleObjectTest, AFailedActionIsShownInABoxWithAnOkButton) {
 
 // The desktop of Wine has no accessible object.
 TEST_F(AccessibleObjectTest, AnActionWithoutAnObjectIsShownInABoxWithAnOkButton) {
+  NEEDS(bed::ObjectsOfWine());
   for (const char* const mode : {"1", "2", "3"}) {
     const Program program({.conf = std::string("action test = ") + mode + "\n"});
     program.MoveWindowTo(640, 20, 600, 700);
@@ -328,6 +331,7 @@ class AccessibleProgramTest : public AccessibleObjectTest,
                               public testing::WithParamInterface<RealProgram> {};
 
 TEST_P(AccessibleProgramTest, IsReported) {
+  NEEDS(bed::ProgramsOfWine());
   const WineProgram target(GetParam().file, "", GetParam().windowClass);
   target.MoveTo(20, 20, 0, 0);
   const Program program({.conf = "detail = 1\ntop height = 8000\n"});

@@ -8,6 +8,7 @@
 
 #include "DialogWindow.h"
 #include "LayoutCheck.h"
+#include "bed/Needs.h"
 #include "driver/GuiTest.h"
 #include "driver/Resolution.h"
 #include "driver/Screen.h"
@@ -34,6 +35,7 @@ class DialogLookTest : public GuiTest, public testing::WithParamInterface<UINT> 
 };
 
 TEST_P(DialogLookTest, EveryPageShowsEverything) {
+  NEEDS(bed::ResolutionAtOnce());
   const Resolution resolution(GetParam());
   const Program program({.conf = "auto stop time = 5\nshift = 1\n"
                                  "hotkey = Shift+PAUSE/BREAK\n"});
@@ -49,6 +51,7 @@ TEST_P(DialogLookTest, EveryPageShowsEverything) {
 }
 
 TEST_P(DialogLookTest, HotKeyDialogShowsEverything) {
+  NEEDS(bed::ResolutionAtOnce());
   const Resolution resolution(GetParam());
   const Program program;
   const DialogWindow settings = OpenSettings(program);

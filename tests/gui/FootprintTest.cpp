@@ -14,6 +14,7 @@
 #include "DialogWindow.h"
 #include "Footprint.h"
 #include "accessible/FixtureProcess.h"
+#include "bed/Needs.h"
 #include "driver/GuiTest.h"
 #include "driver/Owners.h"
 #include "driver/Paths.h"
@@ -60,11 +61,12 @@ std::set<std::string> LibrariesOf(DWORD processId) {
 class FootprintTest : public GuiTest {
  protected:
   void SetUp() override {
+    NEEDS(bed::DesktopWithoutSavedTexts());
     GuiTest::SetUp();
     std::filesystem::remove(OverflowFile());
   }
   void TearDown() override {
-    std::filesystem::remove(OverflowFile());
+    if (!IsSkipped()) std::filesystem::remove(OverflowFile());
     GuiTest::TearDown();
   }
 
@@ -103,6 +105,7 @@ class FootprintTest : public GuiTest {
 };
 
 TEST_F(FootprintTest, NothingIsWrittenButTheSettingsAndTheOverflowFile) {
+  NEEDS(bed::QuietSystem());
   const std::filesystem::path folder = FreshFolder();
   CopyPackageTo(folder);
   const Footprint before = Footprint::Now(folder);

@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "bed/Needs.h"
 #include "driver/Holdings.h"
 #include "driver/Owners.h"
 #include "driver/Target.h"
@@ -15,6 +16,7 @@ namespace gui {
 namespace {
 
 TEST(HoldingsTest, SeesEveryHandle) {
+  NEEDS(bed::CountersOfWine());
   const int before = OwnHoldings().handles;
   std::vector<OwnedHandle> mutexes;
   for (int i = 0; i < 7; ++i) mutexes.emplace_back(CreateMutexW(nullptr, FALSE, nullptr));
@@ -24,6 +26,7 @@ TEST(HoldingsTest, SeesEveryHandle) {
 }
 
 TEST(HoldingsTest, CountsEventsApart) {
+  NEEDS(bed::CountersOfWine());
   const Holdings before = OwnHoldings();
   const OwnedHandle event(CreateEventW(nullptr, FALSE, FALSE, nullptr));
   EXPECT_EQ(OwnHoldings().events, before.events + 1);
@@ -31,6 +34,7 @@ TEST(HoldingsTest, CountsEventsApart) {
 }
 
 TEST(HoldingsTest, SeesEveryGdiObject) {
+  NEEDS(bed::CountersOfWine());
   const int before = OwnHoldings().gdiObjects;
   {
     const std::unique_ptr<void, DeleteObjectCall> brush(CreateSolidBrush(RGB(1, 2, 3)));
@@ -70,6 +74,7 @@ TEST(HoldingsTest, SeesWrittenMemory) {
 }
 
 TEST(HoldingsTest, SeesAnotherProcess) {
+  NEEDS(bed::CountersOfWine());
   Fixture few("title=few");
   Fixture many("title=many edit=a button=b memo=c static=d");
   const Holdings less = HoldingsOf(few.Process().Handle());

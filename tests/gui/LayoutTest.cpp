@@ -9,6 +9,7 @@
 
 #include "LayoutCheck.h"
 #include "SettingsText.h"
+#include "bed/Needs.h"
 #include "driver/GuiTest.h"
 #include "driver/Program.h"
 #include "driver/Resolution.h"
@@ -167,6 +168,7 @@ std::string ConfFor(UINT dpi, int height96) {
 class ResolutionTest : public GuiTest, public testing::WithParamInterface<UINT> {};
 
 TEST_P(ResolutionTest, DefaultSizeShowsEverything) {
+  NEEDS(bed::ResolutionAtOnce());
   const Resolution resolution(GetParam());
   const Program program({.conf = ConfFor(GetParam(), 427)});
   EXPECT_THAT(Overlaps(program.Window()), IsEmpty());
@@ -176,6 +178,7 @@ TEST_P(ResolutionTest, DefaultSizeShowsEverything) {
 }
 
 TEST_P(ResolutionTest, SmallestSizeShowsEverything) {
+  NEEDS(bed::ResolutionAtOnce());
   const Resolution resolution(GetParam());
   const Program program({.conf = ConfFor(GetParam(), 100) + "top height = 300\n"});
   EXPECT_EQ(program.Window().Size().cy, PixelsRoundedUp(3150, GetParam()));
@@ -186,6 +189,7 @@ TEST_P(ResolutionTest, SmallestSizeShowsEverything) {
 }
 
 TEST_P(ResolutionTest, StoredSizesSurvive) {
+  NEEDS(bed::ResolutionAtOnce());
   const Resolution resolution(GetParam());
   const LONG height = 130 * TwipsPerPixel(GetParam());
   Program program(
@@ -197,6 +201,7 @@ TEST_P(ResolutionTest, StoredSizesSurvive) {
 }
 
 TEST_P(ResolutionTest, ControlsGrowWithTheResolution) {
+  NEEDS(bed::ResolutionAtOnce());
   const SIZE normal = Program()[ui::cmdGo].Size();
   const Resolution resolution(GetParam());
   const SIZE size = Program()[ui::cmdGo].Size();

@@ -8,6 +8,7 @@
 
 #include "ListFixture.h"
 #include "accessible/FixtureProcess.h"
+#include "bed/Needs.h"
 #include "driver/GuiTest.h"
 #include "driver/Pointer.h"
 #include "driver/Program.h"
@@ -47,6 +48,7 @@ constexpr char kForeign[] = "cat \U0001F408 ไทย ü";
 using ListView32BitSystemTest = ListViewTest;
 
 TEST_F(ListView32BitSystemTest, CellsAreSeparatedByCommasAndQuoted) {
+  NEEDS(bed::System32());
   std::string csv;
   const int rows = static_cast<int>(std::size(kBetweenCommas));
   for (int row = 0; row < rows; ++row) {
@@ -61,6 +63,7 @@ TEST_F(ListView32BitSystemTest, CellsAreSeparatedByCommasAndQuoted) {
 }
 
 TEST_F(ListView32BitSystemTest, TheFirstColumnAloneHasNoSeparators) {
+  NEEDS(bed::System32());
   ExpectList(cross::Bits::k32, "japanese", "listview col = 2\n",
              "吾輩は猫である\r\n名前はまだ無い。\r\nｶﾀｶﾅ 表示ソ能ポ\r\n①㈱髙\r\n");
 }
@@ -68,6 +71,7 @@ TEST_F(ListView32BitSystemTest, TheFirstColumnAloneHasNoSeparators) {
 using ListView64BitSystemTest = ListViewTest;
 
 TEST_F(ListView64BitSystemTest, TheItemsOfItsAccessibleObjectAreListed) {
+  NEEDS(bed::System64());
   const accessible::FixtureProcess fixture("place=40,40,300,200 rows=3");
   const Program program;
   program.MoveWindowTo(460, 20, 600, 700);
@@ -77,6 +81,7 @@ TEST_F(ListView64BitSystemTest, TheItemsOfItsAccessibleObjectAreListed) {
 }
 
 TEST_F(ListView64BitSystemTest, NamesOfItemsAreQuotedBetweenCommas) {
+  NEEDS(bed::System64());
   const accessible::FixtureProcess fixture("place=40,40,300,200 commas");
   const Program program({.conf = "listview col = 1\n"});
   program.MoveWindowTo(460, 20, 600, 700);
@@ -88,6 +93,8 @@ TEST_F(ListView64BitSystemTest, NamesOfItemsAreQuotedBetweenCommas) {
 
 // Those of Wine have an object without children, so their rows are read by messages.
 TEST_F(ListView64BitSystemTest, RowsAreReadWhateverTheBitsOfItsProgram) {
+  NEEDS(bed::System64());
+  NEEDS(bed::ObjectsOfWine());
   const std::string texts[] = {"吾輩は猫である", "名前はまだ無い。", "ｶﾀｶﾅ 表示ソ能ポ", "①㈱髙"};
   std::string rows;
   for (int row = 0; row < 4; ++row) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "bed/Run.h"
 #include "driver/GuiTest.h"
 
 int main(int count, char** words) {
@@ -9,5 +10,5 @@ int main(int count, char** words) {
   SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);
   testing::InitGoogleTest(&count, words);
   gui::SaveScreenshotOnFailure();
-  return RUN_ALL_TESTS();
+  return bed::Run();
 }

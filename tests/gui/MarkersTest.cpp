@@ -6,6 +6,7 @@
 #include <array>
 
 #include "DialogWindow.h"
+#include "bed/Needs.h"
 #include "driver/GuiTest.h"
 #include "driver/Keys.h"
 #include "driver/Pointer.h"
@@ -187,6 +188,7 @@ TEST_F(MarkersTest, ComeBackAboveAnotherTopmostWindowWithinASecond) {
 }
 
 TEST_F(MarkersTest, LeaveAnOpenMenuAndTheForegroundAlone) {
+  NEEDS(bed::ProgramsOfWine());
   const WineProgram notepad("notepad.exe", "", "Notepad");
   notepad.MoveTo(100, 100, 500, 400);
   const Program program({.conf = "shift = 1\nshiftx = 60\nshifty = 40\n"

@@ -13,6 +13,7 @@
 #include "ListFixture.h"
 #include "OtherReading.h"
 #include "RegistryKey.h"
+#include "bed/Needs.h"
 #include "driver/GuiTest.h"
 #include "driver/Paths.h"
 #include "driver/Pointer.h"
@@ -28,6 +29,11 @@ namespace {
 
 class RealProgramsTest : public GuiTest {
  protected:
+  void SetUp() override {
+    NEEDS(bed::ProgramsOfWine());
+    GuiTest::SetUp();
+  }
+
   // Moves the pointer there and waits until the boxes show what the system finds at that point.
   static void ExpectReport(const Program& program, POINT point, const Control& target) {
     pointer::MoveTo(point);

@@ -6,7 +6,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <optional>
 
+#include "bed/Needs.h"
 #include "driver/GuiTest.h"
 #include "driver/Keys.h"
 #include "driver/Paths.h"
@@ -40,6 +42,11 @@ std::string Place(const Control& window) {
 
 class ReportTest : public GuiTest {
  protected:
+  void SetUp() override {
+    NEEDS(bed::ProgramsOfWine());
+    GuiTest::SetUp();
+  }
+
   // Points there and waits for the end of the report on the window under it, and for its remark.
   static Control PointAt(const Program& program, POINT point, Milliseconds patience = kPatience,
                          std::string_view remark = {}) {
@@ -217,35 +224,42 @@ class LongListTest : public ReportTest {
     return ToUtf8(text);
   }
 
-  LongListTest() { winver_.MoveTo(20, 20, 0, 0); }
+  void SetUp() override {
+    ReportTest::SetUp();
+    if (IsSkipped()) return;
+    winver_.emplace("winver.exe", "", "#32770");
+    winver_->MoveTo(20, 20, 0, 0);
+  }
 
-  const WineProgram winver_{"winver.exe", "", "#32770"};
-  const Control list_ = winver_.Inside("ListBox");
-  const int count_ = static_cast<int>(SendMessageW(list_.Handle(), LB_GETCOUNT, 0, 0));
+  Control List() const { return winver_->Inside("ListBox"); }
+  int Count() const { return static_cast<int>(SendMessageW(List().Handle(), LB_GETCOUNT, 0, 0)); }
+
+  std::optional<WineProgram> winver_;
 };
 
 TEST_F(LongListTest, IsReadWhole) {
+  const int count = Count();
+  ASSERT_GT(count, 1000);
   std::string all;
-  for (int i = 0; i < count_; ++i) all += Item(list_, i) + "\r\n";
-  ASSERT_GT(count_, 1000);
+  for (int i = 0; i < count; ++i) all += Item(List(), i) + "\r\n";
   const Program program;
   program.StartCapture();
-  PointAt(program, list_.Center(), Milliseconds(60000));
+  PointAt(program, List().Center(), Milliseconds(60000));
   EXPECT_TRUE(program.BottomPane().TextBecomes(all));
-  EXPECT_TRUE(program[ui::txtCount].TextBecomes(std::to_string(count_ - 1) + "/" +
-                                                std::to_string(count_ - 1)));
+  EXPECT_TRUE(program[ui::txtCount].TextBecomes(std::to_string(count - 1) + "/" +
+                                                std::to_string(count - 1)));
 }
 
 TEST_F(LongListTest, EndsWithAMarkWhenThePointerGoesOn) {
   const Program program;
   program.StartCapture();
-  pointer::MoveTo(list_.Center());
+  pointer::MoveTo(List().Center());
   Require(WaitFor("the list is being read", [&](std::string& seen) {
     seen = program[ui::txtCount].Text();
     return !seen.empty();
   }));
   // Repeatedly, so that no other report replaces the text.
-  const RECT away = winver_.Window().Rectangle();
+  const RECT away = winver_->Window().Rectangle();
   LONG step = 0;
   EXPECT_TRUE(WaitFor("the text ends with the mark", [&](std::string& seen) {
     step = (step + 1) % 40;
@@ -253,13 +267,13 @@ TEST_F(LongListTest, EndsWithAMarkWhenThePointerGoesOn) {
     seen = program.BottomPane().Text();
     return seen.ends_with("\r\n・・・中断・・・");
   }));
-  EXPECT_THAT(program.BottomPane().Text(), StartsWith(Item(list_, 0) + "\r\n"));
+  EXPECT_THAT(program.BottomPane().Text(), StartsWith(Item(List(), 0) + "\r\n"));
 }
 
 TEST_F(LongListTest, LeavesTheStopKeyAliveWhileItIsRead) {
   const Program program({.conf = "hotkey = ESC\n"});
   program.StartCapture();
-  pointer::MoveTo(list_.Center());
+  pointer::MoveTo(List().Center());
   Require(WaitFor("the list is being read", [&](std::string& seen) {
     seen = program[ui::txtCount].Text();
     return !seen.empty();

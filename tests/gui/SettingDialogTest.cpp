@@ -6,6 +6,7 @@
 #include "DialogWindow.h"
 #include "LayoutCheck.h"
 #include "SettingsText.h"
+#include "bed/Needs.h"
 #include "driver/GuiTest.h"
 #include "driver/Pointer.h"
 #include "driver/Resolution.h"
@@ -197,6 +198,7 @@ TEST_F(SettingDialogTest, CloseBoxForgetsThePlace) {
 }
 
 TEST_F(SettingDialogTest, PlaceIsStoredInTwipsOfTheResolution) {
+  NEEDS(bed::ResolutionAtOnce());
   const Resolution resolution(144);  // 10 twips to a pixel
   Program program({.conf = "setting left = 1000\nsetting top = 500\n"});
   const DialogWindow dialog = OpenSettings(program);

@@ -5,10 +5,11 @@
 #include <gmock/gmock.h>
 
 #include "Cases.h"
+#include "bed/Run.h"
 
 int main(int count, char** words) {
   testing::InitGoogleMock(&count, words);
   hostile::TellCaseOnCrash();
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-  return RUN_ALL_TESTS();
+  return bed::Run();
 }

@@ -20,6 +20,7 @@
 
 #include "Hands.h"
 #include "Plan.h"
+#include "bed/Run.h"
 #include "capture/OutputDelivery.h"
 #include "driver/GuiTest.h"
 #include "driver/Holdings.h"
@@ -179,5 +180,5 @@ int main(int count, char** words) {
   std::setvbuf(stdout, nullptr, _IONBF, 0);
   std::printf("soak: --seed %u, %d s\n", soak::options.seed, soak::options.seconds);
   gui::SaveScreenshotOnFailure();
-  return RUN_ALL_TESTS();
+  return bed::Run();
 }

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "TemporaryFolder.h"
+#include "bed/Needs.h"
 #include "settings/ConfigText.h"
 #include "ui/MainWindowConfig.h"
 
@@ -135,6 +136,7 @@ TEST_F(ConfigFileTest, AppliesARectangleOffTheScreenAsItStands) {
 }
 
 TEST_F(ConfigFileTest, SavesWhatIsLoadedAgain) {
+  NEEDS(bed::CodePage932());
   LoadConfig(Path(), window_, record_);
   record_.hotkey = L"Shift+F3";
   record_.accValueText = L"edit,表示";

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "FakeSession.h"
+#include "bed/Needs.h"
 #include "platform/UniqueHandle.h"
 
 namespace report {
@@ -96,6 +97,7 @@ TEST_F(ControlReadingTest, RowsOfAListViewMayBeSeparatedByCommas) {
 }
 
 TEST_F(ControlReadingTest, Toolbars) {
+  NEEDS(bed::CodePage932());
   const HWND toolbar = Make(TOOLBARCLASSNAMEW);
   TBBUTTON button{};
   button.idCommand = 100;
@@ -107,6 +109,7 @@ TEST_F(ControlReadingTest, Toolbars) {
 }
 
 TEST_F(ControlReadingTest, TabControls) {
+  NEEDS(bed::CodePage932());
   const HWND tabs = Make(WC_TABCONTROLW);
   wchar_t text[] = L"札";
   TCITEMW item{};

@@ -9,6 +9,7 @@
 
 #include "../ReadItems.h"
 #include "FakeTarget.h"
+#include "bed/Needs.h"
 #include "extract/CsvText.h"
 #include "platform/TextCodec.h"
 
@@ -85,7 +86,7 @@ TEST_F(ListViewItemsTest, CellsAreSeparatedByTabsAndRowsEndWithALineEnd) {
 }
 
 TEST_F(ListViewItemsTest, JapaneseComesFromTheCodePage) {
-  if (GetACP() != 932) GTEST_SKIP() << "holds in code page 932";
+  NEEDS(bed::CodePage932());
   columns_ = 2;
   cells_ = {{L"名前", L"種類 ｶﾅ"}, {L"表示", L"a,\"b\""}};
   EXPECT_EQ(Read(), L"名前\t種類 ｶﾅ\r\n表示\ta,\"b\"\r\n");

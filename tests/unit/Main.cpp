@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "bed/Run.h"
+
 namespace {
 
 // The filter that selects all tests of a source file; empty when there are none.
@@ -41,5 +43,5 @@ int main(int count, char** words) {
     }
     GTEST_FLAG_SET(filter, filter);
   }
-  return RUN_ALL_TESTS();
+  return bed::Run();
 }

@@ -1,3 +1,4 @@
+#include "bed/Needs.h"
 #include "ui/Markers.h"
 
 #include <gmock/gmock.h>
@@ -145,9 +146,15 @@ TEST(MarkersTest, AreShownAndHidden) {
   for (const HWND window : Handles(markers)) EXPECT_FALSE(IsWindowVisible(window));
 }
 
+// Windows does not give the foreground to every program that asks, nor to none.
+bed::Need InFront(const OwnWindow& window, bool wanted) {
+  return {(GetForegroundWindow() == window.Handle()) == wanted,
+          wanted ? "needs the foreground, which was not given" : "cannot give the foreground away"};
+}
+
 TEST(MarkersTest, CalledToTheFrontInOrderTheyLeaveTheFocusWhereItIs) {
   const OwnWindow window;
-  if (GetForegroundWindow() != window.Handle()) GTEST_SKIP() << "the system gives no foreground";
+  NEEDS(InFront(window, true));
   Markers markers;
   markers.Place({400, 500});
   const Watch watch;
@@ -161,9 +168,7 @@ TEST(MarkersTest, CalledToTheFrontInOrderTheyLeaveTheFocusWhereItIs) {
 TEST(MarkersTest, AreNotCalledToTheFrontOfAnotherProgram) {
   const OwnWindow window;
   SetForegroundWindow(GetDesktopWindow());
-  if (GetForegroundWindow() == window.Handle()) {
-    GTEST_SKIP() << "the foreground cannot be given away";
-  }
+  NEEDS(InFront(window, false));
   Markers markers;
   markers.Place({400, 500});
   const Watch watch;

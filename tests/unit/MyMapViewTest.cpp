@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "FakeTarget.h"
+#include "bed/Needs.h"
 #include "extract/TargetBlock.h"
 #include "platform/ErrorReport.h"
 #include "platform/TextCodec.h"
@@ -268,7 +269,7 @@ TEST_F(TargetBlockTest, ATextEndsAtTheFirstZeroByte) {
 }
 
 TEST_F(TargetBlockTest, ATextThatFillsTheBlockIsCutBetweenCharacters) {
-  if (GetACP() != 932) GTEST_SKIP() << "holds in code page 932";
+  NEEDS(bed::CodePage932());
   FakeMemory memory;
   extract::TargetBlock block(memory, 77, kSize);
   const std::string even = platform::ToAnsi(std::wstring(200, L'表'));

@@ -7,6 +7,7 @@
 
 #include "FakeCapture.h"
 #include "TemporaryFolder.h"
+#include "bed/Needs.h"
 #include "platform/ErrorReport.h"
 #include "platform/TextCodec.h"
 #include "platform/UniqueHandle.h"
@@ -57,18 +58,18 @@ TEST(RedisplayPanesTest, ShowsTheChosenTexts) {
 
 TEST(RedisplayPanesTest, BothPanesNameTheSameFile) {
   FakeCapture fake;
+  const TemporaryFolder folder;
   fake.state.TopTexts[2].assign(kOverlong, L'a');
   fake.state.BottomTexts[2].assign(kOverlong, L'b');
-  // The file is named in the shown text only when it is written, so it is written: to the desktop
-  // of the test's own prefix.
+  // The file is named in the shown text only when it is written.
   fake.settings.toFile = 1;
-  PaneDelivery(fake.view).RedisplayPanes(fake.state, fake.settings);
+  PaneDelivery(fake.view, [&] {
+    return folder.Path().wstring();
+  }).RedisplayPanes(fake.state, fake.settings);
   for (const ViewText pane : {ViewText::TopPane, ViewText::BottomPane}) {
     EXPECT_NE(fake.view.texts[pane].find(kTopOverflowFile), std::wstring::npos);
   }
-  EXPECT_FALSE(std::filesystem::exists(std::filesystem::path(DesktopFolder()) /
-                                       L"文字数オーバー下段(Velmora).txt"));
-  std::filesystem::remove(std::filesystem::path(DesktopFolder()) / kTopOverflowFile);
+  EXPECT_FALSE(std::filesystem::exists(folder.Path() / L"文字数オーバー下段(Velmora).txt"));
 }
 
 TEST(RefreshBottomPaneTest, LeavesTheTopPaneAndHasAFileOfItsOwn) {
@@ -152,6 +153,7 @@ TEST_F(PutPaneTextTest, WritesTheWholeTextWhenAsked) {
 }
 
 TEST_F(PutPaneTextTest, AVeryLongTextIsWrittenToItsLastByte) {
+  NEEDS(bed::CodePage932());
   std::wstring text;
   for (int line = 0; text.size() < 10'000'000; ++line) {
     text += std::to_wstring(line) + L"\t表示する文字\r\n";

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "NoMemory.h"
+#include "bed/Needs.h"
 #include "bed/Place.h"
 #include "platform/API_Shell.h"
 #include "platform/Clipboard.h"
@@ -62,7 +63,7 @@ TEST(CodePageTest, LettersHaveTheBytesOfTheSystemsPage) {
 }
 
 TEST(TextCodecTest, LongTextsAreNotCutInsideACharacter) {
-  if (GetACP() != 932) GTEST_SKIP() << "holds in code page 932";
+  NEEDS(bed::CodePage932());
   for (const std::size_t shift : {0U, 1U}) {
     std::wstring text(shift, L'x');
     text.append((1U << 20) + 3, L'表');

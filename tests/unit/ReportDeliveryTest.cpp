@@ -6,6 +6,7 @@
 
 #include "FakeReaders.h"
 #include "MessageBoxes.h"
+#include "bed/Needs.h"
 #include "capture/OutputDelivery.h"
 
 namespace capture {
@@ -18,11 +19,16 @@ std::filesystem::path OnDesktop(std::wstring_view file) {
   return std::filesystem::path(DesktopFolder()) / file;
 }
 
-// Saves over-long texts to the desktop of the test's own prefix.
+// Saves over-long texts to the desktop.
 class ReportDeliveryTest : public ReportComposerTest {
  protected:
-  ReportDeliveryTest() { RemoveFiles(); }
-  ~ReportDeliveryTest() override { RemoveFiles(); }
+  void SetUp() override {
+    NEEDS(bed::DesktopWithoutSavedTexts());
+    RemoveFiles();
+  }
+  void TearDown() override {
+    if (!IsSkipped()) RemoveFiles();
+  }
   static void RemoveFiles() {
     std::filesystem::remove(OnDesktop(kTopOverflowFile));
     std::filesystem::remove(OnDesktop(kBottomOverflowFile));

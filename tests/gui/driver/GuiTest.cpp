@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "bed/Needs.h"
 #include "driver/Keys.h"
 #include "driver/Paths.h"
 #include "driver/Pointer.h"
@@ -32,11 +33,15 @@ void SaveScreenshotOnFailure() {
 }
 
 void GuiTest::SetUp() {
+  NEEDS(bed::ThePointer());
+  NEEDS(bed::ScreenForAllWindows());
   keys::Reset();
   RestoreResolution();
   pointer::Park();
 }
 
-void GuiTest::TearDown() { keys::Reset(); }
+void GuiTest::TearDown() {
+  if (!IsSkipped()) keys::Reset();
+}
 
 }  // namespace gui

@@ -5,7 +5,8 @@
 
 namespace gui {
 
-// The pointer is parked and no key is down when a test begins.
+// The pointer is parked and no key is down when a test begins. Skipped where the pointer is not to
+// be taken, or the windows have no room.
 class GuiTest : public testing::Test {
  protected:
   void SetUp() override;

@@ -2,6 +2,8 @@
 
 #include <stdexcept>
 
+#include "bed/Needs.h"
+
 namespace gui {
 namespace {
 
@@ -23,6 +25,8 @@ Resolution::Resolution(DWORD dpi) { Write(dpi); }
 Resolution::~Resolution() { RestoreResolution(); }
 
 void RestoreResolution() {
+  // Elsewhere no test changed it, and it is as the user wants it.
+  if (!bed::OnWine()) return;
   DWORD dpi = kNormal;
   DWORD size = sizeof dpi;
   RegGetValueW(HKEY_CURRENT_USER, kKey, kValue, RRF_RT_REG_DWORD, nullptr, &dpi, &size);

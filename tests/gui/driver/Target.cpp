@@ -4,6 +4,7 @@
 #include <memory>
 #include <stdexcept>
 
+#include "bed/Needs.h"
 #include "driver/Paths.h"
 #include "driver/RealSystemFolder.h"
 #include "driver/Text.h"
@@ -15,6 +16,8 @@ namespace {
 
 std::unique_ptr<ChildProcess> StartSystemProgram(std::string_view name,
                                                  std::string_view arguments) {
+  // Windows has programs of these names too: the user's.
+  if (!bed::OnWine()) throw std::logic_error("the test does not say that it needs Wine's programs");
   wchar_t windows[MAX_PATH] = {};
   GetWindowsDirectoryW(windows, MAX_PATH);
   const std::filesystem::path root(windows);
