@@ -46,5 +46,5 @@ Need DesktopWithoutSavedTexts();
   if (const bed::Need needed = (need); needed.isMet) {        \
   } else if (needed.isMetByTheBed && bed::IsTestBed()) {      \
     FAIL() << "The test bed must have it: " << needed.reason; \
-  } else /* NOLINT */                                         \
+  } else                                                      \
     GTEST_SKIP() << needed.reason

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "bed/Needs.h"
 #include "driver/Owners.h"
 #include "driver/Text.h"
 
@@ -13,10 +14,6 @@ namespace bench {
 namespace {
 
 constexpr wchar_t kHostTable[] = L"Z:\\proc\\";
-
-bool IsWine() {
-  return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-}
 
 // Files of the host's table tell no size, so they are read piece by piece.
 std::string ReadAll(const std::filesystem::path& file) {
@@ -67,7 +64,7 @@ double Milliseconds(const FILETIME& time) {
 
 ProcessorTime::ProcessorTime(HANDLE process, const std::filesystem::path& program)
     : process_(process) {
-  if (IsWine()) hostEntry_ = HostEntryOf(program);
+  if (bed::OnWine()) hostEntry_ = HostEntryOf(program);
 }
 
 double ProcessorTime::Now() const {

@@ -1,0 +1,3 @@
+TEST(AnyTest, OnSomeSystems) {
+  if (GetACP() != 932) GTEST_SKIP();
+}
