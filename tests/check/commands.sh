@@ -41,7 +41,7 @@ labels_of_tests() {
 
 names=$(names_of_tests)
 labels=$(labels_of_tests)
-for script in $(told '(scripts/[a-z-]+\.sh|\./(run|test)\b)' '^'); do
+for script in $(told '(scripts/[a-z-]+\.sh|tests/[a-z_/]+\.py|\./(run|test)\b)' '^'); do
   [[ -x $folder/$script ]] || complain "$script: no such script"
 done
 for pattern in $(told '\./test.* (-R|--filter) [^ `]+' '.* (-R|--filter) '); do
