@@ -1,6 +1,8 @@
 // unit_tests.exe [--file=NAME.cpp] [--gtest_…]
 //
 // With --file only the tests of that source file run; GoogleTest knows where each test stands.
+#include <windows.h>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -28,10 +30,20 @@ std::string FilterOf(std::string_view file) {
   return filter;
 }
 
+// The system takes the windows of a thread for hung that has not asked for messages for five
+// seconds, and the tests before may have taken that long.
+class AsksForMessages : public testing::EmptyTestEventListener {
+  void OnTestStart(const testing::TestInfo&) override {
+    MSG message;
+    PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);
+  }
+};
+
 }  // namespace
 
 int main(int count, char** words) {
   testing::InitGoogleMock(&count, words);
+  testing::UnitTest::GetInstance()->listeners().Append(new AsksForMessages);
   constexpr std::string_view kFile = "--file=";
   for (int i = 1; i < count; ++i) {
     const std::string_view word = words[i];
