@@ -292,6 +292,15 @@ TEST_F(AccessibleListingTest, ObjectsAndSimpleElementsMayBeMixed) {
   EXPECT_EQ(Tree(tree, 3), L"一\r\n物\r\n三\r\n");
 }
 
+TEST_F(AccessibleListingTest, AnItemThatDoesNotNameItsHolderHasNoNumberedNeighbours) {
+  Node tree({});
+  Node item({.name = L"物"});
+  tree.AddObject(item);
+  AddItem(tree, L"二", L"0");
+  item.failures["accParent"] = E_FAIL;
+  EXPECT_EQ(Tree(item, CHILDID_SELF), L"物\r\n");
+}
+
 TEST_F(AccessibleListingTest, TreesAreNotCutAtTheLargestNumber) {
   Node tree({});
   for (int i = 0; i < 500; ++i) AddItem(tree, L"項", L"0");
