@@ -7,6 +7,7 @@
 
 #include "../accessible/ReportText.h"
 #include "AccessibleReportFixture.h"
+#include "platform/UniqueHandle.h"
 
 namespace MyAccessible {
 namespace {
@@ -241,6 +242,16 @@ TEST_F(AccessibleReportTest, WithoutAnObjectThereIsNoReport) {
   EXPECT_EQ(GetAccessibleMemberFromPoint(record_, {reinterpret_cast<HWND>(0x7FFF1234), L"", L""},
                                          {}, settings_, session_.Session()),
             L"");
+}
+
+TEST_F(AccessibleReportTest, AWindowIsReportedByItsOwnObject) {
+  const platform::UniqueWindow window(CreateWindowExW(0, L"STATIC", L"窓の文字", WS_POPUP, 0, 0, 10,
+                                                      10, nullptr, nullptr, nullptr, nullptr));
+  const std::wstring report = GetAccessibleMemberFromPoint(
+      record_, {window.Get(), L"類", L"題"}, {{-30'000, -30'000}}, settings_, session_.Session());
+  EXPECT_THAT(report, testing::HasSubstr(L"　　類 \"題\"\r\n"));
+  EXPECT_THAT(report, testing::HasSubstr(L"Name       : 窓の文字\r\n"));
+  EXPECT_EQ(record_.name, L"窓の文字");
 }
 
 TEST_F(AccessibleReportTest, FiveHundredReportsLeaveNothingBehind) {
