@@ -123,14 +123,19 @@ TEST_F(ListViewItemsTest, TheMessages) {
   Read();
   const auto& sent = target_.messages.sent;
   ASSERT_EQ(sent.size(), 4U);
-  EXPECT_EQ(sent[0].message, kItemCount);
-  EXPECT_EQ(sent[0].hwnd, target_.hwnd);
-  EXPECT_EQ(sent[1].message, kHeader);
-  EXPECT_EQ(sent[1].hwnd, target_.hwnd);
-  EXPECT_EQ(sent[2].message, kHeaderItemCount);
-  EXPECT_EQ(sent[2].hwnd, kHeaderWindow);
-  EXPECT_EQ(sent[3].message, kItem);
-  EXPECT_EQ(sent[3].hwnd, target_.hwnd);
+  const struct {
+    UINT message;
+    HWND hwnd;
+  } expected[] = {{kItemCount, target_.hwnd},
+                  {kHeader, target_.hwnd},
+                  {kHeaderItemCount, kHeaderWindow},
+                  {kItem, target_.hwnd}};
+  for (std::size_t i = 0; i < sent.size(); ++i) {
+    EXPECT_EQ(sent[i].message, expected[i].message);
+    EXPECT_EQ(sent[i].hwnd, expected[i].hwnd) << i;
+    EXPECT_EQ(sent[i].wParam, 0U) << i;
+    EXPECT_EQ(sent[i].lParam != 0, sent[i].message == kItem) << i;
+  }
   EXPECT_EQ(target_.messages.askedProcessOf, target_.hwnd);
 }
 
