@@ -144,11 +144,13 @@ TEST_P(ListViewRowsTest, ATextOfTheControlsOwnIsRead) {
 
 TEST_P(ListViewRowsTest, ATextAbove4GbIsReadToo) {
   if (!GetParam()) return;
-  target_.memory.farAddress = 0x7FFF'1234'5008;
-  target_.memory.farText = std::wstring(5000, L'遠') + L'\0' + std::wstring(4096, L'x');
-  own_ = {{{0, 0}, target_.memory.farAddress}, {{0, 1}, 0x7FFF'0000'0000}};
   rows_ = 1;
-  EXPECT_EQ(Read(), std::wstring(5000, L'遠') + L"\t\r\n");
+  target_.memory.farText = std::wstring(5000, L'遠') + L'\0' + std::wstring(4096, L'x');
+  for (const std::uint64_t address : {0x7FFF'1234'5008U, 0x1'0000'0000U}) {
+    target_.memory.farAddress = address;
+    own_ = {{{0, 0}, address}, {{0, 1}, 0x7FFF'0000'0000}};
+    EXPECT_EQ(Read(), std::wstring(5000, L'遠') + L"\t\r\n");
+  }
 }
 
 TEST_P(ListViewRowsTest, StopsAfterTheRowInWhichThePointerLeaves) {
