@@ -260,6 +260,7 @@ TEST_F(AbsolutePathTest, JoinsWhatIsRelative) {
 
 TEST_F(AbsolutePathTest, LeavesWhatIsAbsolute) {
   EXPECT_EQ(At(L"D:\\a.txt"), L"D:\\a.txt");
+  EXPECT_EQ(At(L"D:\\"), L"D:\\");
   EXPECT_EQ(At(L"\\\\server\\a.txt"), L"\\\\server\\a.txt");
   // A drive without its backslash is a name like any other.
   EXPECT_EQ(At(L"D:a.txt"), L"C:\\windows\\D:a.txt");
