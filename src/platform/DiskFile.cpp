@@ -60,7 +60,6 @@ bool NewFile::Write(std::string_view bytes) {
     DWORD count = 0;
     if (!WriteFile(handle_.Get(), bytes.data(), wanted, &count, nullptr) || count == 0) {
       handle_ = {};
-      break;
     }
     bytes.remove_prefix(count);
   }
