@@ -16,8 +16,8 @@ constexpr int kDeepest = 64;  // windows can be nested deeper only in hostile pr
 bool IsGroupBox(HWND hwnd) {
   const LONG_PTR style = GetWindowLongPtrW(hwnd, GWL_STYLE);
   if ((style & (WS_CHILD | BS_TYPEMASK)) != (WS_CHILD | BS_GROUPBOX)) return false;
-  std::array<wchar_t, 128> name{};
-  if (RealGetWindowClassW(hwnd, name.data(), static_cast<UINT>(name.size())) == 0) return false;
+  std::array<wchar_t, 128> name{};  // stays empty when the window is gone
+  RealGetWindowClassW(hwnd, name.data(), static_cast<UINT>(name.size()));
   return ContainsIgnoringCase(name.data(), L"button");
 }
 
