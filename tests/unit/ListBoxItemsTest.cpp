@@ -74,13 +74,15 @@ TEST_P(ListBoxItemsTest, EveryItemIsALineAndShowsItsNumber) {
 TEST_P(ListBoxItemsTest, TheMessagesOfItsKindAreSent) {
   items_ = {L"one", L"two"};
   Read();
+  const Kind& kind = GetParam();
   std::vector<UINT> messages;
   for (const auto& sent : target_.messages.sent) {
     EXPECT_EQ(sent.hwnd, target_.hwnd);
+    EXPECT_EQ(sent.lParam != 0, sent.message == kind.text);
     messages.push_back(sent.message);
   }
-  const Kind& kind = GetParam();
   EXPECT_THAT(messages, ElementsAre(kind.count, kind.length, kind.text, kind.length, kind.text));
+  EXPECT_EQ(target_.messages.sent[0].wParam, 0U);
   EXPECT_EQ(target_.messages.sent[4].wParam, 1U);
   EXPECT_THAT(target_.memory.calls, IsEmpty());
 }
