@@ -32,6 +32,7 @@ class RestTrackerTest : public testing::Test {
 
 TEST_F(RestTrackerTest, APointOfTheFirstPassRestsFromItsEnd) {
   EXPECT_EQ(Pass(kHere, 1010), kMoved);
+  EXPECT_EQ(tracker_.StillMs(), 0U);
   EXPECT_EQ(Pass(kHere, 1059), kMoved);
   EXPECT_EQ(Pass(kHere, 1060), kMoved);  // 49 ms
   EXPECT_EQ(tracker_.StillMs(), 49U);
