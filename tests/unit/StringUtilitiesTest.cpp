@@ -82,6 +82,10 @@ TEST(CompareTest, TakesAnyValue) {
   EXPECT_EQ(MinOf(2, 3), 2);
   EXPECT_EQ(MaxOf(std::wstring(L"b"), std::wstring(L"a")), L"b");
   EXPECT_EQ(MinOf(1.5, -1.5), -1.5);
+  const int first = 2;
+  const int equal = 2;
+  EXPECT_EQ(&MaxOf(first, equal), &first);
+  EXPECT_EQ(&MinOf(first, equal), &first);
   EXPECT_FALSE(IsPositive(0));
   EXPECT_TRUE(IsPositive(1));
   EXPECT_FALSE(IsPositive(-1));
