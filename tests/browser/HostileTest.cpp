@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "PageReport.h"
+#include "bed/Needs.h"
 #include "driver/Holdings.h"
 #include "driver/WaitFor.h"
 
@@ -171,6 +172,7 @@ TEST_F(HostileTest, ProgramsMayDieInAnyCall) {
 }
 
 TEST_F(HostileTest, FiveHundredReportsLeaveNothingBehind) {
+  NEEDS(bed::CountersOfWine());
   const BrowserProcess fruit("deadline=600 place=40,40,400,300 fruit");
   const BrowserProcess frames("deadline=600 place=460,40,400,300 scrolled");
   const BrowserProcess junk("deadline=600 place=40,360,400,300 junk");

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "SettingsText.h"
+#include "bed/Needs.h"
 #include "driver/GuiTest.h"
 #include "driver/Owners.h"
 #include "driver/Program.h"
@@ -101,6 +102,7 @@ TEST_F(ConfigFileTest, FileStandsBesideTheProgram) {
 }
 
 TEST_F(ConfigFileTest, EveryKeySurvivesARun) {
+  NEEDS(bed::CodePage932());
   const std::vector<std::string> lines = {
       "form left = 77",
       "form top = 55",
@@ -148,6 +150,7 @@ TEST_F(ConfigFileTest, EveryKeySurvivesARun) {
 }
 
 TEST_F(ConfigFileTest, JapaneseValuesAreWrittenInTheSystemCodePage) {
+  NEEDS(bed::CodePage932());
   Program program({.conf = "chime file = 鐘.wav\n"});
   ASSERT_EQ(program.CloseAndWait(), 0U);
   EXPECT_NE(program.ConfBytes().find("chime file = \x8f\xe0.wav\r\n"), std::string::npos);

@@ -8,6 +8,7 @@
 
 #include "DialogWindow.h"
 #include "SettingsText.h"
+#include "bed/Needs.h"
 #include "driver/GuiTest.h"
 #include "driver/Pointer.h"
 #include "driver/Program.h"
@@ -72,6 +73,7 @@ class KeptSettingsTest : public GuiTest {
 };
 
 TEST_F(KeptSettingsTest, OpeningAndClosingTheDialogsChangesNoLine) {
+  NEEDS(bed::CodePage932());
   Program program(With(OddLines()));
   EXPECT_FALSE(program.IsCapturing());  // "auto start" is not 1
   const DialogWindow settings = OpenSettings(program);
@@ -92,6 +94,7 @@ TEST_F(KeptSettingsTest, OpeningAndClosingTheDialogsChangesNoLine) {
 }
 
 TEST_F(KeptSettingsTest, ClickStoresZeroOrOneAndLeavesTheOthers) {
+  NEEDS(bed::CodePage932());
   Program program(With(OddLines()));
   EXPECT_TRUE(program[ui::chkAutoStop].IsChecked());
   EXPECT_TRUE(program[ui::chkDetail].IsChecked());

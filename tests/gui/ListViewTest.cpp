@@ -63,6 +63,7 @@ TEST_F(ListView32BitSystemTest, CellsAreSeparatedByCommasAndQuoted) {
 }
 
 TEST_F(ListView32BitSystemTest, TheFirstColumnAloneHasNoSeparators) {
+  NEEDS(bed::CodePage932());
   NEEDS(bed::System32());
   ExpectList(cross::Bits::k32, "japanese", "listview col = 2\n",
              "吾輩は猫である\r\n名前はまだ無い。\r\nｶﾀｶﾅ 表示ソ能ポ\r\n①㈱髙\r\n");
@@ -93,6 +94,7 @@ TEST_F(ListView64BitSystemTest, NamesOfItemsAreQuotedBetweenCommas) {
 
 // Those of Wine have an object without children, so their rows are read by messages.
 TEST_F(ListView64BitSystemTest, RowsAreReadWhateverTheBitsOfItsProgram) {
+  NEEDS(bed::CodePage932());
   NEEDS(bed::System64());
   NEEDS(bed::ObjectsOfWine());
   const std::string texts[] = {"吾輩は猫である", "名前はまだ無い。", "ｶﾀｶﾅ 表示ソ能ポ", "①㈱髙"};

@@ -232,19 +232,19 @@ class LongListTest : public ReportTest {
   }
 
   Control List() const { return winver_->Inside("ListBox"); }
-  int Count() const { return static_cast<int>(SendMessageW(List().Handle(), LB_GETCOUNT, 0, 0)); }
 
   std::optional<WineProgram> winver_;
 };
 
 TEST_F(LongListTest, IsReadWhole) {
-  const int count = Count();
+  const Control list = List();
+  const auto count = static_cast<int>(SendMessageW(list.Handle(), LB_GETCOUNT, 0, 0));
   ASSERT_GT(count, 1000);
   std::string all;
-  for (int i = 0; i < count; ++i) all += Item(List(), i) + "\r\n";
+  for (int i = 0; i < count; ++i) all += Item(list, i) + "\r\n";
   const Program program;
   program.StartCapture();
-  PointAt(program, List().Center(), Milliseconds(60000));
+  PointAt(program, list.Center(), Milliseconds(60000));
   EXPECT_TRUE(program.BottomPane().TextBecomes(all));
   EXPECT_TRUE(program[ui::txtCount].TextBecomes(std::to_string(count - 1) + "/" +
                                                 std::to_string(count - 1)));

@@ -1,7 +1,8 @@
 #include "Target.h"
 
+#include <filesystem>
+
 #include "corpus/Installer.h"
-#include "driver/Paths.h"
 #include "driver/WaitFor.h"
 #include "driver/Windows.h"
 
@@ -58,7 +59,9 @@ void Target::StartSystemProgram() {
 }
 
 void Target::StartInstaller() {
-  installer_ = corpus::StartInstaller(cross::Bits::k32, kind_->words, gui::FreshFolder());
+  // The test's own folder is the program's.
+  installer_ = corpus::StartInstaller(cross::Bits::k32, kind_->words,
+                                      std::filesystem::temp_directory_path());
   process_ = installer_.get();
   window_ = gui::WaitForWindow(*process_, corpus::kInstallerClass);
 }
