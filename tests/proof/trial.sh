@@ -43,14 +43,14 @@ unpack() {
     complain "prove.cmd has lines that do not end with CR LF"
 }
 
-# prove FILTER [WORD…] runs prove.cmd from another folder, with what comes from the standard input.
+# prove FILTER [WORD…] runs prove.cmd by the command in `there`, from another folder, with what comes
+# from the standard input.
 prove() {
   local filter=$1
   shift
   rm -f "$log"
   code=0
-  (cd "$unpacked" && GTEST_FILTER=$filter exec "$source/scripts/${prefix:-beside}.sh" \
-    cmd /c 'Velmora-proof\prove.cmd' "$@") >proof/console.txt || code=$?
+  (cd "$unpacked" && GTEST_FILTER=$filter exec "${there[@]}" cmd /c 'Velmora-proof\prove.cmd' "$@") >proof/console.txt || code=$?
 }
 
 exits_with() { [[ $code == "$1" ]] || complain "prove.cmd ended with $code, not $1"; }
@@ -79,6 +79,7 @@ case $way in
     ;;
   *) readonly source=$2 ;;
 esac
+there=("$source/scripts/on-desktop.sh" wine)
 
 case $way in
   passes)
@@ -116,7 +117,7 @@ case $way in
     exits_with 2
     ;;
   skips)
-    prefix=in-cp1252
+    there=("$source/scripts/in-cp1252.sh")
     test=TextCodecTest.LongTextsAreNotCutInsideACharacter
     (
       unset VELMORA_TEST_BED
