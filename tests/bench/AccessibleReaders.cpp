@@ -41,14 +41,16 @@ POINT InFirstItem(const accessible::FixtureProcess& fixture) {
 
 POINT InTheMiddle(const accessible::FixtureProcess& fixture) { return fixture.Control().Center(); }
 
-void Expect(const std::wstring& text) {
-  if (text.empty()) throw std::runtime_error("nothing was read from the accessible fixture");
+void Expect(const accessible::FixtureProcess& fixture, const std::wstring& text) {
+  if (text.empty() || !fixture.IsRunning()) {
+    throw std::runtime_error("the accessible fixture gave nothing, or has ended");
+  }
 }
 
 std::wstring ListTree(const accessible::FixtureProcess& fixture) {
   HWND target = fixture.Window();
   std::wstring text = TreeAt(target, InFirstItem(fixture), Everything(), Session(target));
-  Expect(text);
+  Expect(fixture, text);
   return text;
 }
 
@@ -56,7 +58,7 @@ std::wstring ListTree(const accessible::FixtureProcess& fixture) {
 
 std::vector<Pair> MeasureTextAtPoint() {
   const Apartment apartment;
-  const accessible::FixtureProcess fixture("fruit");
+  const accessible::FixtureProcess fixture("deadline=3600 fruit");
   const POINT point = InTheMiddle(fixture);
   MyInternetexplore::BoundedMessages messages(MyInternetexplore::SystemBrowserCalls());
   const MyInternetexplore::BrowserAccess browser{MyInternetexplore::SystemBrowserCalls(), messages};
@@ -65,14 +67,14 @@ std::vector<Pair> MeasureTextAtPoint() {
       [&] {
         const extract::TextReading reading = extract::MyGetControlTextFromPoint(
             point.x, point.y, {}, false, browser, [](const std::wstring&) {});
-        Expect(reading.text);
+        Expect(fixture, reading.text);
       },
       [point] { AskTextAtPoint(point); });
 }
 
 std::vector<Pair> MeasureAccessibleReport() {
   const Apartment apartment;
-  const accessible::FixtureProcess fixture("fruit");
+  const accessible::FixtureProcess fixture("deadline=3600 fruit");
   const POINT point = InTheMiddle(fixture);
   HWND target = fixture.Window();
   const settings::Settings settings = Everything();
@@ -80,33 +82,35 @@ std::vector<Pair> MeasureAccessibleReport() {
       kRounds,
       [&] {
         MyAccessible::AccessibleFacts record;
-        Expect(MyAccessible::GetAccessibleMemberFromPoint(record, {}, {point}, settings,
-                                                          Session(target)));
+        Expect(fixture, MyAccessible::GetAccessibleMemberFromPoint(record, {}, {point}, settings,
+                                                                   Session(target)));
       },
       [point] { AskAccessibleReport(point); });
 }
 
 std::vector<Pair> MeasureChildListing(int children) {
   const Apartment apartment;
-  const accessible::FixtureProcess fixture("objects=" + std::to_string(children));
+  const accessible::FixtureProcess fixture("deadline=3600 objects=" + std::to_string(children));
   HWND target = fixture.Window();
   const settings::Settings settings = Everything();
   return Compare(
-      kListingRounds, [&] { Expect(ChildrenOf(target, settings, Session(target))); },
+      kListingRounds, [&] { Expect(fixture, ChildrenOf(target, settings, Session(target))); },
       [target] { AskChildListing(target); });
 }
 
 std::vector<Pair> MeasureTreeListing(int items) {
   const Apartment apartment;
-  const accessible::FixtureProcess fixture("tree=" + std::to_string(items));
+  const accessible::FixtureProcess fixture("deadline=3600 tree=" + std::to_string(items));
   return Compare(
       kListingRounds, [&] { ListTree(fixture); }, [&] { AskTreeListing(InFirstItem(fixture)); });
 }
 
 std::vector<Pair> MeasureTreeGrowth(int items) {
   const Apartment apartment;
-  const accessible::FixtureProcess few("place=10,10,200,300 tree=" + std::to_string(items));
-  const accessible::FixtureProcess many("place=300,10,200,300 tree=" + std::to_string(items * 10));
+  const accessible::FixtureProcess few("deadline=3600 place=10,10,200,300 tree=" +
+                                       std::to_string(items));
+  const accessible::FixtureProcess many("deadline=3600 place=300,10,200,300 tree=" +
+                                        std::to_string(items * 10));
   return Compare(
       kListingRounds, [&] { ListTree(many); },
       [&] {

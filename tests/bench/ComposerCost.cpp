@@ -32,7 +32,7 @@ void Ask(HWND target, POINT point) {
 
 std::vector<Pair> MeasureReport() {
   const Apartment apartment;
-  const accessible::FixtureProcess fixture("fruit");
+  const accessible::FixtureProcess fixture("deadline=3600 fruit");
   const POINT point = fixture.Control().Center();
   FakeCapture capture;
   capture.settings.parentChildren = 1;

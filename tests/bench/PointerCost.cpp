@@ -33,7 +33,8 @@ void ForAllPoints(void (*step)(int)) {
 }  // namespace
 
 std::vector<Pair> MeasureWindowMeant() {
-  const gui::Fixture fixture("place=40,40,480,480 edit=a button=b static=c memo=d list=5 leaf=e");
+  const gui::Fixture fixture(
+      "deadline=3600 place=40,40,480,480 edit=a button=b static=c memo=d list=5 leaf=e");
   return Compare(
       kRounds, [] { ForAllPoints(Choose); }, [] { ForAllPoints(AskBare); });
 }

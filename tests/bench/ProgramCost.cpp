@@ -71,7 +71,7 @@ std::vector<Pair> MeasureStartUp() {
 std::vector<Pair> MeasureTextCall() {
   const std::filesystem::path program = gui::PackageFolder() / "VelmoraText.exe";
   const std::filesystem::path yardstick = Yardstick(L"bench_bare_text.exe");
-  const cross::ListFixture fixture(cross::Bits::k32, "rows=many:1000");
+  const cross::ListFixture fixture(cross::Bits::k32, "deadline=3600 rows=many:1000");
   const std::string handle = std::to_string(reinterpret_cast<INT_PTR>(fixture["rows"]));
   std::vector<Pair> pairs;
   for (int i = 0; i <= kStarts; ++i) {
