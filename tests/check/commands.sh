@@ -29,7 +29,7 @@ told() {
 names_of_tests() {
   find "$build" -name CTestTestfile.cmake -exec sed -nE 's/^add_test\(\[?=*\[?"?([^]" ]+).*/\1/p' {} +
   local list
-  for list in $(grep -l gtest_discover_tests "$tests"/*/CMakeLists.txt); do
+  for list in $(grep -l discover_tests "$tests"/*/CMakeLists.txt); do
     sed -nE 's/^TEST(_F|_P)?\(([^,]+), *([^)]+)\).*/\2.\3/p' "$(dirname "$list")"/*.cpp
   done
 }
